@@ -1,0 +1,24 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "TonalithDisplayManager.h"
+
+FTonalithDisplayConfiguration& FTonalithDisplayManager::FindOrAddDisplayConfiguration(FViewportClient* Client)
+{
+	TUniquePtr<FTonalithDisplayConfiguration>& Configuration = Configurations.FindOrAdd(Client);
+	if (!Configuration.IsValid())
+	{
+		Configuration = MakeUnique<FTonalithDisplayConfiguration>();
+	}
+	return *Configuration;
+}
+
+const FTonalithDisplayConfiguration* FTonalithDisplayManager::GetDisplayConfiguration(
+	const FViewportClient* Client) const
+{
+	const TUniquePtr<FTonalithDisplayConfiguration>* Found = Configurations.Find(Client);
+	return Found ? Found->Get() : nullptr;
+}
+
+bool FTonalithDisplayManager::RemoveDisplayConfiguration(const FViewportClient* Client)
+{
+	return Configurations.Remove(Client) > 0;
+}

@@ -1,0 +1,22 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "TonalithEditorModule.h"
+
+#include "Modules/ModuleManager.h"
+
+DEFINE_LOG_CATEGORY(LogTonalithEditor);
+
+IMPLEMENT_MODULE(FTonalithEditorModule, TonalithEditor)
+
+void FTonalithEditorModule::StartupModule()
+{
+	BindWorldInitialization();
+	BindEngineLoop();
+}
+
+void FTonalithEditorModule::ShutdownModule()
+{
+	UnbindEditor();
+	ForgetEditorWorld();
+	UnbindWorldInitialization();
+	UnbindEngineLoop();
+}

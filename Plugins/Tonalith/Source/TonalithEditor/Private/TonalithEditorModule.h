@@ -1,0 +1,60 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// The editor module: wires looks into the editor's worlds, viewports and play sessions. Everything runs on the game
+// thread, inside callbacks of the engine.
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Engine/World.h"
+#include "Modules/ModuleInterface.h"
+#include "UObject/WeakObjectPtr.h"
+
+class FViewportClient;
+struct FTonalithDisplayConfiguration;
+
+DECLARE_LOG_CATEGORY_EXTERN(LogTonalithEditor, Log, All);
+
+class FTonalithEditorModule final : public IModuleInterface
+{
+public:
+	void StartupModule() override;
+	void ShutdownModule() override;
+
+private:
+	// Worlds: the last editor world is watched for changes of its feature level, one world at a time.
+	void BindWorldInitialization();
+	void UnbindWorldInitialization();
+	void ForgetEditorWorld();
+	void OnPreWorldInitialization(UWorld* World, const UWorld::InitializationValues Values);
+	void OnFeatureLevelChanged(ERHIFeatureLevel::Type FeatureLevel);
+
+	// The editor engine: exists once the engine loop is complete, which never happens in commandlets.
+	void BindEngineLoop();
+	void UnbindEngineLoop();
+	void UnbindEditor();
+	void OnEngineLoopInitComplete();
+
+	// Level viewports.
+	void OnLevelViewportClientListChanged();
+
+	// Play in editor: a session starts with the look of the viewport that was active when it was launched.
+	void OnPreBeginPIE(const bool bIsSimulating);
+	void OnPostPIEStarted(const bool bIsSimulating);
+	void OnGameViewportClientCreated();
+
+	/** A level viewport whose record is given back when its client is gone. */
+	struct FTrackedViewport
+	{
+		/** A key: the client may be dead. */
+		FViewportClient* Client;
+	};
+
+	TArray<FTrackedViewport> TrackedViewports;
+
+	/** The record of the viewport that was active when play was about to begin; the runtime module owns it. */
+	FTonalithDisplayConfiguration* PendingPIEConfiguration = nullptr;
+
+	FWeakObjectPtr EditorWorld;
+
+	/** Of the handler on EditorWorld. */
+	FDelegateHandle FeatureLevelChangedHandle;
+};

@@ -1,0 +1,18 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "CoreGlobals.h"
+
+#include <thread>
+
+DEFINE_LOG_CATEGORY(LogTemp);
+
+uint64 GFrameCounter = 0;
+
+namespace
+{
+const std::thread::id GameThread = std::this_thread::get_id();
+}
+
+bool IsInGameThread()
+{
+	return std::this_thread::get_id() == GameThread;
+}

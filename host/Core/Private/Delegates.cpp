@@ -1,0 +1,16 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "Delegates/Delegate.h"
+
+#include "Misc/CoreDelegates.h"
+
+#include <atomic>
+
+FDelegateHandle::FDelegateHandle(EGenerateNewHandleType)
+{
+	static std::atomic<uint64> LastID = 0;
+	ID = ++LastID;
+}
+
+FSimpleMulticastDelegate FCoreDelegates::OnFEngineLoopInitComplete(TEXT("FCoreDelegates::OnFEngineLoopInitComplete"));
+FSimpleMulticastDelegate FCoreDelegates::OnPreExit(TEXT("FCoreDelegates::OnPreExit"));
+FSimpleMulticastDelegate FCoreDelegates::OnExit(TEXT("FCoreDelegates::OnExit"));

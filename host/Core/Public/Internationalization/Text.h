@@ -1,0 +1,29 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#pragma once
+
+#include "UObject/NameTypes.h"
+
+/** Text for people. */
+class FText
+{
+public:
+	FText() = default;
+
+	static FText FromString(FString String) { return FText(std::move(String)); }
+
+	static FText FromName(const FName& Name) { return FText(Name.ToString()); }
+
+	CORE_API static const FText& GetEmpty();
+
+	const FString& ToString() const { return Text; }
+
+	bool IsEmpty() const { return Text.IsEmpty(); }
+
+	/** Case counts. */
+	bool EqualTo(const FText& Other) const { return Text.Equals(Other.Text); }
+
+private:
+	explicit FText(FString&& InText) : Text(std::move(InText)) {}
+
+	FString Text;
+};

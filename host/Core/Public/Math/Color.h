@@ -1,0 +1,31 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#pragma once
+
+#include "HAL/Platform.h"
+
+/** 8 bits a channel, in memory as blue, green, red, alpha. Uninitialised unless given values. */
+struct FColor
+{
+	uint8 B, G, R, A;
+
+	FColor() {}
+	constexpr FColor(uint8 InR, uint8 InG, uint8 InB, uint8 InA = 255) : B(InB), G(InG), R(InR), A(InA) {}
+
+	friend bool operator==(const FColor&, const FColor&) = default;
+
+	static CORE_API const FColor White;
+};
+
+static_assert(sizeof(FColor) == 4);
+
+/** Linear light, 1 is white. */
+struct FLinearColor
+{
+	float R = 0.0f;
+	float G = 0.0f;
+	float B = 0.0f;
+	float A = 0.0f;
+
+	constexpr FLinearColor() = default;
+	constexpr FLinearColor(float InR, float InG, float InB, float InA = 1.0f) : R(InR), G(InG), B(InB), A(InA) {}
+};

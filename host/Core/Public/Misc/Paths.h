@@ -1,0 +1,29 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Containers/UnrealString.h"
+
+/** Paths use "/". Folders of the project end with it. */
+class FPaths
+{
+public:
+	/** Joins with exactly one "/" between non-empty parts. */
+	template <typename... PathTypes>
+	[[nodiscard]] static FString Combine(const PathTypes&... Paths)
+	{
+		FString Combined;
+		((Combined /= Paths), ...);
+		return Combined;
+	}
+
+	/** Empty until the host has set the project. */
+	CORE_API static FString ProjectDir();
+
+	/** What the editor writes. */
+	CORE_API static FString ProjectSavedDir();
+	CORE_API static FString ProjectLogDir();
+
+	/** Whether there is such a file, or folder; false also when it cannot be told. */
+	CORE_API static bool FileExists(const FString& Path);
+	CORE_API static bool DirectoryExists(const FString& Path);
+};

@@ -1,0 +1,31 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// What every module implements. Header-only; the order of the virtual functions is part of the binary interface.
+#pragma once
+
+class IModuleInterface
+{
+public:
+	virtual ~IModuleInterface() = default;
+
+	/** Called once, right after the module object was made. */
+	virtual void StartupModule() {}
+
+	/** Called at the editor's exit, before any module is shut down. */
+	virtual void PreUnloadCallback() {}
+
+	virtual void PostLoadCallback() {}
+
+	/** Called once, right before the module object is destroyed. */
+	virtual void ShutdownModule() {}
+
+	virtual bool SupportsDynamicReloading() { return true; }
+
+	virtual bool SupportsAutomaticShutdown() { return true; }
+
+	virtual bool IsGameModule() const { return false; }
+};
+
+/** A module without behaviour of its own. */
+class FDefaultModuleImpl : public IModuleInterface
+{
+};

@@ -1,0 +1,47 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Templates/UnrealTemplate.h"
+
+#include <memory>
+
+/** The only owner of an object. */
+template <typename T>
+class TUniquePtr
+{
+public:
+	TUniquePtr() = default;
+	TUniquePtr(std::nullptr_t) {}
+	explicit TUniquePtr(T* InObject) : Object(InObject) {}
+
+	template <typename OtherType>
+	requires std::is_convertible_v<OtherType*, T*> TUniquePtr(TUniquePtr<OtherType>&& Other) : Object(Other.Release())
+	{
+	}
+
+	bool IsValid() const { return Object != nullptr; }
+
+	explicit operator bool() const { return IsValid(); }
+
+	T* Get() const { return Object.get(); }
+
+	T* operator->() const { return Get(); }
+
+	T& operator*() const { return *Get(); }
+
+	/** Gives the ownership to the caller. */
+	T* Release() { return Object.release(); }
+
+	void Reset(T* InObject = nullptr) { Object.reset(InObject); }
+
+	friend bool operator==(const TUniquePtr& Pointer, std::nullptr_t) { return !Pointer.IsValid(); }
+
+private:
+	std::unique_ptr<T> Object;
+};
+
+template <typename T, typename... ArgTypes>
+TUniquePtr<T> MakeUnique(ArgTypes&&... Args)
+{
+	return TUniquePtr<T>(new T(std::forward<ArgTypes>(Args)...));
+}

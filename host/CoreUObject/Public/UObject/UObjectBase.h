@@ -1,0 +1,28 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// The object array: every object has an index in it for life; weak pointers check index and serial number.
+#pragma once
+
+#include "CoreMinimal.h"
+
+class UObject;
+
+/** Whether the object system is up: false before the editor starts and after its objects were purged at exit. */
+COREUOBJECT_API bool UObjectInitialized();
+
+namespace HostObjects
+{
+COREUOBJECT_API void Init();
+
+/** Destroys all objects that are left; afterwards no object may be made. */
+COREUOBJECT_API void Shutdown();
+
+/** Enters an object and gives its index. */
+int32 Add(UObject* Object);
+void Remove(int32 Index);
+
+/** The serial number of the index: a fresh one for each object that uses it. */
+int32 SerialNumber(int32 Index);
+
+/** The object, or null when it is dead, garbage, or another one lives at the index. */
+UObject* Find(int32 Index, int32 SerialNumber);
+} // namespace HostObjects

@@ -1,0 +1,154 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "EditorDriver.h"
+
+#include "Editor.h"
+#include "HAL/IConsoleManager.h"
+#include "Host/Trace.h"
+#include "LevelEditor.h"
+#include "SLevelViewport.h"
+
+namespace
+{
+FLevelEditorModule& LevelEditor()
+{
+	return FModuleManager::GetModuleChecked<FLevelEditorModule>("LevelEditor");
+}
+
+TSharedRef<SLevelViewport> FindPane(const FString& Key)
+{
+	const TSharedPtr<SLevelViewport> Pane = LevelEditor().FindPane(FName(*Key));
+	if (!Pane.IsValid())
+	{
+		throw FDriverError(FString::Printf(TEXT("no pane \"%s\" is open"), *Key));
+	}
+	return Pane.ToSharedRef();
+}
+} // namespace
+
+FDriverError::FDriverError(const FString& Reason) : std::runtime_error(TCHAR_TO_UTF8(*Reason)) {}
+
+void FEditorDriver::RequireStarted() const
+{
+	if (!bIsRunning)
+	{
+		throw FDriverError(TEXT("the editor is not running"));
+	}
+}
+
+void FEditorDriver::Start(const FEngineLoopOptions& Options)
+{
+	if (bIsRunning)
+	{
+		throw FDriverError(TEXT("the editor is running already"));
+	}
+	FString Error;
+	if (!Loop.Init(Options, Error))
+	{
+		throw FDriverError(Error);
+	}
+	bIsRunning = true;
+}
+
+UWorld& FEditorDriver::MakeWorld(EWorldType::Type Type)
+{
+	RequireStarted();
+	return *UWorld::CreateWorld(Type);
+}
+
+void FEditorDriver::DestroyWorld(UWorld& World)
+{
+	World.MarkAsGarbage();
+	CollectGarbage();
+}
+
+SLevelViewport& FEditorDriver::Pane(const FString& Key) const
+{
+	RequireStarted();
+	return *FindPane(Key);
+}
+
+void FEditorDriver::OpenPane(const FString& Key)
+{
+	RequireStarted();
+	if (LevelEditor().FindPane(FName(*Key)).IsValid())
+	{
+		throw FDriverError(FString::Printf(TEXT("a pane \"%s\" is open already"), *Key));
+	}
+	HostTrace::Line(TEXT("open pane %s"), *Key);
+	LevelEditor().OpenPane(FName(*Key));
+}
+
+void FEditorDriver::ClosePane(const FString& Key)
+{
+	RequireStarted();
+	const TSharedRef<SLevelViewport> Pane = FindPane(Key);
+	HostTrace::Line(TEXT("close pane %s"), *Key);
+	LevelEditor().ClosePane(Pane);
+}
+
+void FEditorDriver::ActivatePane(const FString& Key)
+{
+	GCurrentLevelEditingViewportClient = &Pane(Key).GetLevelViewportClient();
+}
+
+void FEditorDriver::Play(const TSharedPtr<IAssetViewport>& Pane)
+{
+	GEditor->RequestPlaySession({Pane});
+	Loop.Tick();
+}
+
+void FEditorDriver::PlayInPane()
+{
+	RequireStarted();
+	const TSharedPtr<IAssetViewport> Pane = LevelEditor().GetFirstActiveViewport();
+	if (!Pane.IsValid())
+	{
+		throw FDriverError(TEXT("no pane is open to play in"));
+	}
+	Play(Pane);
+}
+
+void FEditorDriver::PlayInWindow()
+{
+	RequireStarted();
+	Play(nullptr);
+}
+
+void FEditorDriver::PlayCancelled(EPlayCancellation Cancellation)
+{
+	RequireStarted();
+	GEditor->NextPlayCancellation = Cancellation;
+	Play(nullptr);
+}
+
+void FEditorDriver::EndPlay()
+{
+	RequireStarted();
+	GEditor->RequestEndPlayMap();
+	Loop.Tick();
+}
+
+void FEditorDriver::Console(const FString& Line)
+{
+	RequireStarted();
+	if (!IConsoleManager::Get().ProcessUserConsoleInput(*Line))
+	{
+		throw FDriverError(FString::Printf(TEXT("no console command \"%s\""), *Line));
+	}
+}
+
+void FEditorDriver::UnloadModule(const FString& Name)
+{
+	RequireStarted();
+	if (!FModuleManager::Get().UnloadModule(FName(*Name)))
+	{
+		throw FDriverError(FString::Printf(TEXT("module \"%s\" is not loaded"), *Name));
+	}
+}
+
+void FEditorDriver::Quit()
+{
+	RequireStarted();
+	Loop.Exit();
+	bIsRunning = false;
+}

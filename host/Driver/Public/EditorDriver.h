@@ -1,0 +1,69 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// A user's hands on the editor. Tests and stories act through this and nothing else.
+#pragma once
+
+#include "Engine/EngineTypes.h"
+#include "LaunchEngineLoop.h"
+
+#include <stdexcept>
+
+class FViewport;
+class SLevelViewport;
+class UWorld;
+enum class EPlayCancellation;
+
+/** A step that cannot be done as asked, such as closing a pane that is not open. The text is UTF-8. */
+class FDriverError : public std::runtime_error
+{
+public:
+	explicit FDriverError(const FString& Reason);
+};
+
+/** One editor session; a process can have one. Every operation that cannot be done throws FDriverError. */
+class FEditorDriver
+{
+public:
+	/** Starts the editor as far as an empty layout. */
+	void Start(const FEngineLoopOptions& Options);
+
+	UWorld& MakeWorld(EWorldType::Type Type);
+
+	/** Destroys the world, as loading another map does. */
+	void DestroyWorld(UWorld& World);
+
+	/** Opens a pane under the key that names it within its layout; it becomes the active one. */
+	void OpenPane(const FString& Key);
+
+	void ClosePane(const FString& Key);
+	void ActivatePane(const FString& Key);
+
+	/** The pane of that key. */
+	SLevelViewport& Pane(const FString& Key) const;
+
+	/** Plays in the active pane. */
+	void PlayInPane();
+
+	/** Plays in a window of its own. */
+	void PlayInWindow();
+
+	/** Plays in a window, but something stops the session. */
+	void PlayCancelled(EPlayCancellation Cancellation);
+
+	void EndPlay();
+
+	/** Types a line into the console. */
+	void Console(const FString& Line);
+
+	/** Shuts a module down in the middle of the session. */
+	void UnloadModule(const FString& Name);
+
+	/** A normal exit. */
+	void Quit();
+
+private:
+	void RequireStarted() const;
+	void Play(const TSharedPtr<class IAssetViewport>& Pane);
+
+	FEngineLoop Loop;
+	bool bIsRunning = false;
+};

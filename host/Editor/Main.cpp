@@ -1,0 +1,86 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// The headless editor: plays a story.
+//   HeadlessEditor -story=<file> [-project=<folder>] [-plugins=<folder>[;<folder>...]]
+// Exit codes: 0 played to the end, 1 a step failed or the input is bad, 3 a fatal check.
+#include "Misc/Paths.h"
+#include "StoryPlayer.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <windows.h>
+
+namespace
+{
+struct FCommandLine
+{
+	std::string Story;
+	FEngineLoopOptions Options;
+};
+
+TArray<FString> SplitFolders(const std::wstring& List)
+{
+	TArray<FString> Folders;
+	for (size_t Begin = 0; Begin <= List.size();)
+	{
+		const size_t End = std::min(List.find(L';', Begin), List.size());
+		Folders.Add(FString(List.substr(Begin, End - Begin).c_str()));
+		Begin = End + 1;
+	}
+	return Folders;
+}
+
+FCommandLine Parse(int Count, wchar_t** Arguments)
+{
+	const std::filesystem::path Bin = std::filesystem::absolute(Arguments[0]).parent_path();
+	FCommandLine Result;
+	Result.Options.ProjectFolder = (Bin / L"../session").generic_wstring().c_str();
+	Result.Options.PluginFolders.Add((Bin / L"../stage").generic_wstring().c_str());
+	for (int Index = 1; Index < Count; ++Index)
+	{
+		const std::wstring Argument = Arguments[Index];
+		const size_t Split = std::min(Argument.find(L'='), Argument.size());
+		const std::wstring Key = Argument.substr(0, Split);
+		const std::wstring Value = Argument.substr(std::min(Split + 1, Argument.size()));
+		if (Key == L"-story")
+		{
+			Result.Story = TCHAR_TO_UTF8(Value.c_str());
+		}
+		else if (Key == L"-project")
+		{
+			Result.Options.ProjectFolder = Value.c_str();
+		}
+		else if (Key == L"-plugins")
+		{
+			Result.Options.PluginFolders = SplitFolders(Value);
+		}
+		else
+		{
+			throw FStoryError(std::string("unknown argument ") + TCHAR_TO_UTF8(Argument.c_str()));
+		}
+	}
+	if (Result.Story.empty())
+	{
+		throw FStoryError("no story given: -story=<file>");
+	}
+	return Result;
+}
+} // namespace
+
+int wmain(int Count, wchar_t** Arguments)
+{
+	SetConsoleOutputCP(CP_UTF8);
+	try
+	{
+		const FCommandLine CommandLine = Parse(Count, Arguments);
+		const FStory Story(CommandLine.Story);
+		FStoryPlayer(CommandLine.Options).Play(Story);
+		std::printf("%s: played to the end\n", CommandLine.Story.c_str());
+		return 0;
+	}
+	catch (const FStoryError& Error)
+	{
+		std::fflush(stdout);
+		std::fprintf(stderr, "%s\n", Error.what());
+		return 1;
+	}
+}

@@ -1,0 +1,59 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "Story.h"
+
+#include <filesystem>
+#include <fstream>
+
+FStory::FStory(const std::string& File) : Name(File)
+{
+	std::ifstream Stream(std::filesystem::path(std::u8string(File.begin(), File.end())));
+	if (!Stream)
+	{
+		throw FStoryError(File + ": cannot be read");
+	}
+	size_t Number = 0;
+	for (std::string Line; std::getline(Stream, Line);)
+	{
+		if (!Line.empty() && Line.back() == '\r')
+		{
+			Line.pop_back();
+		}
+		FStoryStep Step{++Number, {}, Line};
+		Step.Words = Split(Step);
+		if (!Step.Words.empty())
+		{
+			AllSteps.push_back(Step);
+		}
+	}
+}
+
+FStoryError FStory::Error(const FStoryStep& Step, size_t Column, const std::string& Reason) const
+{
+	return FStoryError(Name + ":" + std::to_string(Step.Line) + ":" + std::to_string(Column) + ": " + Reason);
+}
+
+std::vector<FStoryWord> FStory::Split(const FStoryStep& Step) const
+{
+	const std::string Blanks = " \t";
+	const std::string& Line = Step.Source;
+	std::vector<FStoryWord> Words;
+	size_t At = Line.find_first_not_of(Blanks);
+	if (At != std::string::npos && Line[At] == '#')
+	{
+		return Words;
+	}
+	while (At != std::string::npos)
+	{
+		const bool bIsQuoted = Line[At] == '"';
+		const size_t Begin = At + bIsQuoted;
+		size_t End = bIsQuoted ? Line.find('"', Begin) : Line.find_first_of(Blanks, Begin);
+		if (bIsQuoted && End == std::string::npos)
+		{
+			throw Error(Step, At + 1, "the text has no closing quote");
+		}
+		End = std::min(End, Line.size());
+		Words.push_back({Line.substr(Begin, End - Begin), At + 1});
+		At = Line.find_first_not_of(Blanks, End + bIsQuoted);
+	}
+	return Words;
+}

@@ -1,0 +1,50 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// A story: an editor session as text, one step a line. Words are separated by blanks; double quotes hold a text with
+// blanks together; "#" begins a comment line.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+/** Something wrong with a story, as one line: file, line, column, reason. UTF-8. */
+class FStoryError : public std::runtime_error
+{
+public:
+	using std::runtime_error::runtime_error;
+};
+
+struct FStoryWord
+{
+	std::string Text;
+
+	/** Counted in bytes from 1. */
+	size_t Column;
+};
+
+struct FStoryStep
+{
+	size_t Line;
+	std::vector<FStoryWord> Words;
+
+	/** The line as it stands in the file. */
+	std::string Source;
+};
+
+class FStory
+{
+public:
+	/** Reads a UTF-8 file. Throws FStoryError. */
+	explicit FStory(const std::string& File);
+
+	const std::vector<FStoryStep>& Steps() const { return AllSteps; }
+
+	/** The error for a place in this story. */
+	FStoryError Error(const FStoryStep& Step, size_t Column, const std::string& Reason) const;
+
+private:
+	std::vector<FStoryWord> Split(const FStoryStep& Step) const;
+
+	std::string Name;
+	std::vector<FStoryStep> AllSteps;
+};

@@ -1,0 +1,186 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "StoryPlayer.h"
+
+#include "Misc/OutputDeviceRedirector.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+
+namespace
+{
+FString Wide(const std::string& Text)
+{
+	return FString(UTF8_TO_TCHAR(Text.c_str()));
+}
+} // namespace
+
+FStoryPlayer::FStoryPlayer(const FEngineLoopOptions& InOptions) : Options(InOptions)
+{
+	GLog->AddOutputDevice(this);
+}
+
+FStoryPlayer::~FStoryPlayer()
+{
+	GLog->RemoveOutputDevice(this);
+}
+
+const std::vector<FStoryPlayer::FVerb>& FStoryPlayer::Verbs()
+{
+	static const std::vector<FVerb> All{
+		{"start", 0, &FStoryPlayer::Start},
+		{"make world", 1, &FStoryPlayer::MakeWorld},
+		{"open pane", 1, &FStoryPlayer::OpenPane},
+		{"close pane", 1, &FStoryPlayer::ClosePane},
+		{"activate pane", 1, &FStoryPlayer::ActivatePane},
+		{"play in pane", 0, &FStoryPlayer::PlayInPane},
+		{"play in window", 0, &FStoryPlayer::PlayInWindow},
+		{"end play", 0, &FStoryPlayer::EndPlay},
+		{"console", 1, &FStoryPlayer::Console},
+		{"quit", 0, &FStoryPlayer::Quit},
+		{"expect log", 1, &FStoryPlayer::ExpectLog},
+		{"expect no log", 1, &FStoryPlayer::ExpectNoLog},
+	};
+	return All;
+}
+
+const FStoryPlayer::FVerb& FStoryPlayer::FindVerb(const FStory& Story, const FStoryStep& Step, FArguments& OutArguments)
+{
+	std::string Front;
+	for (size_t Count = 1; Count <= Step.Words.size(); ++Count)
+	{
+		Front += (Front.empty() ? "" : " ") + Step.Words[Count - 1].Text;
+		const auto Verb = std::find_if(
+			Verbs().begin(), Verbs().end(), [&Front](const FVerb& Candidate) { return Candidate.Words == Front; });
+		if (Verb == Verbs().end())
+		{
+			continue;
+		}
+		OutArguments.clear();
+		for (size_t Index = Count; Index < Step.Words.size(); ++Index)
+		{
+			OutArguments.push_back(Step.Words[Index].Text);
+		}
+		if (OutArguments.size() != Verb->ArgumentCount)
+		{
+			throw Story.Error(Step, Step.Words[Count - 1].Column,
+				"\"" + Verb->Words + "\" takes " + std::to_string(Verb->ArgumentCount) + " argument(s), not " +
+					std::to_string(OutArguments.size()));
+		}
+		return *Verb;
+	}
+	throw Story.Error(Step, Step.Words[0].Column, "unknown verb \"" + Step.Words[0].Text + "\"");
+}
+
+void FStoryPlayer::Play(const FStory& Story)
+{
+	FArguments Arguments;
+	for (const FStoryStep& Step : Story.Steps())
+	{
+		FindVerb(Story, Step, Arguments);
+	}
+	for (const FStoryStep& Step : Story.Steps())
+	{
+		const FVerb& Verb = FindVerb(Story, Step, Arguments);
+		std::printf("%s\n", Step.Source.c_str());
+		std::fflush(stdout);
+		if (!Verb.Words.starts_with("expect"))
+		{
+			Log.clear();
+		}
+		try
+		{
+			(this->*Verb.Do)(Arguments);
+		}
+		catch (const FDriverError& Failure)
+		{
+			throw Story.Error(Step, Step.Words[0].Column, Failure.what());
+		}
+	}
+}
+
+void FStoryPlayer::Serialize(const TCHAR* Text, ELogVerbosity::Type, const FName& Category)
+{
+	const std::string Line = TCHAR_TO_UTF8(*(Category.ToString() + TEXT(": ") + Text));
+	Log.push_back(Line);
+	std::printf("    %s\n", Line.c_str());
+}
+
+bool FStoryPlayer::WasLogged(const std::string& Text) const
+{
+	return std::any_of(
+		Log.begin(), Log.end(), [&Text](const std::string& Line) { return Line.find(Text) != std::string::npos; });
+}
+
+void FStoryPlayer::Start(const FArguments&)
+{
+	Driver.Start(Options);
+}
+
+void FStoryPlayer::MakeWorld(const FArguments& Arguments)
+{
+	static const std::map<std::string, EWorldType::Type> Types{{"Editor", EWorldType::Editor},
+		{"EditorPreview", EWorldType::EditorPreview}, {"Inactive", EWorldType::Inactive}, {"Game", EWorldType::Game}};
+	const auto Type = Types.find(Arguments[0]);
+	if (Type == Types.end())
+	{
+		throw FDriverError(TEXT("a world is of type Editor, EditorPreview, Inactive or Game"));
+	}
+	Driver.MakeWorld(Type->second);
+}
+
+void FStoryPlayer::OpenPane(const FArguments& Arguments)
+{
+	Driver.OpenPane(Wide(Arguments[0]));
+}
+
+void FStoryPlayer::ClosePane(const FArguments& Arguments)
+{
+	Driver.ClosePane(Wide(Arguments[0]));
+}
+
+void FStoryPlayer::ActivatePane(const FArguments& Arguments)
+{
+	Driver.ActivatePane(Wide(Arguments[0]));
+}
+
+void FStoryPlayer::PlayInPane(const FArguments&)
+{
+	Driver.PlayInPane();
+}
+
+void FStoryPlayer::PlayInWindow(const FArguments&)
+{
+	Driver.PlayInWindow();
+}
+
+void FStoryPlayer::EndPlay(const FArguments&)
+{
+	Driver.EndPlay();
+}
+
+void FStoryPlayer::Console(const FArguments& Arguments)
+{
+	Driver.Console(Wide(Arguments[0]));
+}
+
+void FStoryPlayer::Quit(const FArguments&)
+{
+	Driver.Quit();
+}
+
+void FStoryPlayer::ExpectLog(const FArguments& Arguments)
+{
+	if (!WasLogged(Arguments[0]))
+	{
+		throw FDriverError(TEXT("the log does not hold \"") + Wide(Arguments[0]) + TEXT("\""));
+	}
+}
+
+void FStoryPlayer::ExpectNoLog(const FArguments& Arguments)
+{
+	if (WasLogged(Arguments[0]))
+	{
+		throw FDriverError(TEXT("the log holds \"") + Wide(Arguments[0]) + TEXT("\""));
+	}
+}

@@ -1,0 +1,53 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// Plays a story through the driver and prints each step with what the editor logged meanwhile.
+#pragma once
+
+#include "EditorDriver.h"
+#include "Misc/OutputDevice.h"
+#include "Story.h"
+
+class FStoryPlayer : private FOutputDevice
+{
+public:
+	explicit FStoryPlayer(const FEngineLoopOptions& InOptions);
+	~FStoryPlayer() override;
+
+	/** Checks all steps, then plays them. Throws FStoryError at the first one that is wrong or fails. */
+	void Play(const FStory& Story);
+
+private:
+	using FArguments = std::vector<std::string>;
+
+	struct FVerb
+	{
+		/** The fixed words at the front of a step. */
+		std::string Words;
+		size_t ArgumentCount;
+		void (FStoryPlayer::*Do)(const FArguments& Arguments);
+	};
+
+	static const std::vector<FVerb>& Verbs();
+	static const FVerb& FindVerb(const FStory& Story, const FStoryStep& Step, FArguments& OutArguments);
+
+	void Start(const FArguments& Arguments);
+	void MakeWorld(const FArguments& Arguments);
+	void OpenPane(const FArguments& Arguments);
+	void ClosePane(const FArguments& Arguments);
+	void ActivatePane(const FArguments& Arguments);
+	void PlayInPane(const FArguments& Arguments);
+	void PlayInWindow(const FArguments& Arguments);
+	void EndPlay(const FArguments& Arguments);
+	void Console(const FArguments& Arguments);
+	void Quit(const FArguments& Arguments);
+	void ExpectLog(const FArguments& Arguments);
+	void ExpectNoLog(const FArguments& Arguments);
+
+	bool WasLogged(const std::string& Text) const;
+	void Serialize(const TCHAR* Text, ELogVerbosity::Type Verbosity, const FName& Category) override;
+
+	FEngineLoopOptions Options;
+	FEditorDriver Driver;
+
+	/** What the last step that is no expectation logged; UTF-8. */
+	std::vector<std::string> Log;
+};

@@ -1,0 +1,23 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// The viewport of a widget.
+#pragma once
+
+#include "UnrealClient.h"
+
+class FViewportFrame
+{
+public:
+	virtual ~FViewportFrame() = default;
+	virtual FViewport* GetViewport() = 0;
+};
+
+/** The frame comes first, as in the engine: converting to FViewport changes the address. */
+class FSceneViewport
+	: public FViewportFrame
+	, public FViewport
+{
+public:
+	explicit FSceneViewport(FViewportClient* InViewportClient) : FViewport(InViewportClient) {}
+
+	FViewport* GetViewport() override { return this; }
+};

@@ -1,0 +1,36 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// The editor's life: start, ticks, exit, each in the engine's order.
+#pragma once
+
+#include "CoreMinimal.h"
+
+struct FEngineLoopOptions
+{
+	/** Where logs and settings are kept; made when missing. */
+	FString ProjectFolder;
+
+	/** Folders whose sub-folders hold plug-ins. */
+	TArray<FString> PluginFolders;
+
+	/** The editor's culture, such as "en" or "fr-CA". */
+	FString Culture = TEXT("en");
+
+	/** Without user interface and editor engine; the engine loop never reports completion. */
+	bool bIsCommandlet = false;
+};
+
+/** One a process. Game thread. An exception that comes out of a module ends the process. */
+class FEngineLoop
+{
+public:
+	/** @return false with one line in OutError (file, place, reason); the process should then end */
+	LAUNCH_API bool Init(const FEngineLoopOptions& Options, FString& OutError) noexcept;
+	LAUNCH_API void Tick() noexcept;
+	LAUNCH_API void Exit() noexcept;
+
+private:
+	bool LoadPhases(const TCHAR* First, const TCHAR* Last, FString& OutError);
+	void MakeEditor();
+
+	bool bIsCommandlet = false;
+};

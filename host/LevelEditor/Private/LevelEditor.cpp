@@ -1,0 +1,48 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "LevelEditor.h"
+
+#include "SLevelViewport.h"
+
+IMPLEMENT_HOST_MODULE(FLevelEditorModule, LevelEditor)
+
+TSharedPtr<IAssetViewport> FLevelEditorModule::GetFirstActiveViewport() const
+{
+	for (const TSharedPtr<SLevelViewport>& Pane : Panes)
+	{
+		if (&Pane->GetLevelViewportClient() == GCurrentLevelEditingViewportClient)
+		{
+			return Pane;
+		}
+	}
+	return Panes.IsEmpty() ? nullptr : TSharedPtr<IAssetViewport>(Panes[0]);
+}
+
+TSharedRef<SLevelViewport> FLevelEditorModule::OpenPane(FName ConfigKey)
+{
+	const TSharedRef<SLevelViewport> Pane = MakeShared<SLevelViewport>();
+	Pane->Construct({ConfigKey});
+	Panes.Add(Pane);
+	GCurrentLevelEditingViewportClient = &Pane->GetLevelViewportClient();
+	return Pane;
+}
+
+TSharedPtr<SLevelViewport> FLevelEditorModule::FindPane(FName ConfigKey) const
+{
+	const TSharedPtr<SLevelViewport>* Found = Panes.FindByPredicate(
+		[ConfigKey](const TSharedPtr<SLevelViewport>& Pane) { return Pane->GetConfigKey() == ConfigKey; });
+	return Found ? *Found : nullptr;
+}
+
+void FLevelEditorModule::ClosePane(TSharedRef<SLevelViewport> Pane)
+{
+	// Out of the list before it dies: its events ask for the active viewport.
+	Panes.Remove(Pane);
+}
+
+void FLevelEditorModule::CloseAllPanes()
+{
+	while (!Panes.IsEmpty())
+	{
+		ClosePane(Panes[0].ToSharedRef());
+	}
+}

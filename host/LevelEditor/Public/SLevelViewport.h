@@ -1,0 +1,34 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// A pane of the level editor.
+#pragma once
+
+#include "AssetEditorViewportLayout.h"
+#include "IAssetViewport.h"
+#include "LevelEditorViewport.h"
+#include "Slate/SceneViewport.h"
+
+class LEVELEDITOR_API SLevelViewport
+	: public SEditorViewport
+	, public IAssetViewport
+{
+public:
+	void Construct(const FAssetEditorViewportConstructionArgs& InConstructionArgs);
+
+	FName GetConfigKey() const { return ConfigKey; }
+
+	FLevelEditorViewportClient& GetLevelViewportClient() const
+	{
+		return static_cast<FLevelEditorViewportClient&>(*Client);
+	}
+
+	FViewport* GetActiveViewport() override;
+	void StartPlayInEditorSession(const TSharedPtr<FSceneViewport>& InPlayViewport) override;
+	void EndPlayInEditorSession() override;
+
+protected:
+	TSharedRef<FEditorViewportClient> MakeEditorViewportClient() override;
+
+private:
+	FName ConfigKey;
+	TSharedPtr<FSceneViewport> PlayViewport;
+};

@@ -1,0 +1,33 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "Editor.h"
+#include "LevelEditorViewport.h"
+#include "SLevelViewport.h"
+
+FLevelEditorViewportClient* GCurrentLevelEditingViewportClient = nullptr;
+
+FEditorViewportClient::FEditorViewportClient(const TWeakPtr<SEditorViewport>& InEditorViewportWidget)
+	: EditorViewportWidget(InEditorViewportWidget)
+{
+	GEditor->AddViewportClients(this);
+}
+
+FEditorViewportClient::~FEditorViewportClient()
+{
+	checkf(Viewport == nullptr, TEXT("The viewport of a client must be gone before the client."));
+	GEditor->RemoveViewportClients(this);
+}
+
+FLevelEditorViewportClient::FLevelEditorViewportClient(const TSharedPtr<SLevelViewport>& InLevelViewport)
+	: FEditorViewportClient(InLevelViewport)
+{
+	GEditor->AddLevelViewportClients(this);
+}
+
+FLevelEditorViewportClient::~FLevelEditorViewportClient()
+{
+	if (GCurrentLevelEditingViewportClient == this)
+	{
+		GCurrentLevelEditingViewportClient = nullptr;
+	}
+	GEditor->RemoveLevelViewportClients(this);
+}

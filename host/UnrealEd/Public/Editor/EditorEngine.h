@@ -1,0 +1,66 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// The editor as an object: its lists of viewport clients and its play sessions.
+#pragma once
+
+#include "Engine/Engine.h"
+#include "Engine/World.h"
+#include "PlayInEditorDataTypes.h"
+
+class FEditorViewportClient;
+class FLevelEditorViewportClient;
+class FSceneViewport;
+
+DECLARE_EVENT(UEditorEngine, FViewportClientListChangedEvent);
+
+class UEditorEngine : public UEngine
+{
+public:
+	const TArray<FEditorViewportClient*>& GetAllViewportClients() const { return AllViewportClients; }
+
+	const TArray<FLevelEditorViewportClient*>& GetLevelViewportClients() const { return LevelViewportClients; }
+
+	/** The list changes first, then the event is sent; so with the three below. */
+	UNREALED_API void AddViewportClients(FEditorViewportClient* ViewportClient);
+	UNREALED_API void RemoveViewportClients(FEditorViewportClient* ViewportClient);
+	UNREALED_API void AddLevelViewportClients(FLevelEditorViewportClient* ViewportClient);
+	UNREALED_API void RemoveLevelViewportClients(FLevelEditorViewportClient* ViewportClient);
+
+	FViewportClientListChangedEvent& OnViewportClientListChanged() { return ViewportClientListChangedEvent; }
+
+	FViewportClientListChangedEvent& OnLevelViewportClientListChanged() { return LevelViewportClientListChangedEvent; }
+
+	/** The viewport of the current pane, else of the first one, else null. The play viewport while a pane plays. */
+	UNREALED_API FViewport* GetActiveViewport();
+
+	/** The viewport that is played in, or null. */
+	UNREALED_API FViewport* GetPIEViewport();
+
+	/** Asks for a session; it begins at the next tick. */
+	UNREALED_API void RequestPlaySession(const FRequestPlaySessionParams& InParams);
+
+	/** Ends the session at the next tick. */
+	UNREALED_API void RequestEndPlayMap();
+
+	UNREALED_API void Tick();
+
+	/** Ends the session at once; nothing without one. */
+	UNREALED_API void EndPlayMap();
+
+	/** Stops the next session; falls back to None afterwards. */
+	EPlayCancellation NextPlayCancellation = EPlayCancellation::None;
+
+private:
+	void StartPlaySession(const FRequestPlaySessionParams& Params);
+	void CreatePlayViewport(const FRequestPlaySessionParams& Params);
+
+	TArray<FEditorViewportClient*> AllViewportClients;
+	TArray<FLevelEditorViewportClient*> LevelViewportClients;
+	FViewportClientListChangedEvent ViewportClientListChangedEvent{TEXT("UEditorEngine::OnViewportClientListChanged")};
+	FViewportClientListChangedEvent LevelViewportClientListChangedEvent{
+		TEXT("UEditorEngine::OnLevelViewportClientListChanged")};
+	TUniquePtr<FRequestPlaySessionParams> PlaySessionRequest;
+	bool bEndPlayRequested = false;
+	UWorld* PlayWorld = nullptr;
+	TSharedPtr<FSceneViewport> PlayViewport;
+	TWeakPtr<IAssetViewport> PlayPane;
+};

@@ -1,0 +1,118 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// What a user sees who gives the program something broken: one line with file and place, and a non-zero exit.
+#include "Program.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <windows.h>
+
+namespace fs = std::filesystem;
+using testing::AllOf;
+using testing::EndsWith;
+using testing::HasSubstr;
+
+class BadInput : public testing::Test
+{
+protected:
+	BadInput() : Folder(fs::temp_directory_path() / (L"tonalith-bad-" + std::to_wstring(GetCurrentProcessId())))
+	{
+		fs::remove_all(Folder);
+		fs::create_directories(Folder / L"plugins/Bad/Binaries/Win64");
+		Write("start.story", "start\nquit\n");
+	}
+
+	~BadInput() override
+	{
+		std::error_code Ignored;
+		fs::remove_all(Folder, Ignored);
+	}
+
+	void Write(const char* File, const std::string& Text) const
+	{
+		std::ofstream(Folder / File, std::ios::binary) << Text;
+	}
+
+	FProgramResult Play(const wchar_t* Story) const
+	{
+		const std::wstring Root = Folder.wstring();
+		return RunHeadlessEditor(
+			L"-story=" + Root + L"/" + Story + L" -project=" + Root + L"/project -plugins=" + Root + L"/plugins");
+	}
+
+	/** The reason is the last line, and nothing comes after it. */
+	void ExpectReason(const wchar_t* Story, const std::string& Reason) const
+	{
+		const FProgramResult Result = Play(Story);
+		EXPECT_EQ(Result.ExitCode, 1u);
+		const size_t LastLine = Result.Output.rfind('\n', Result.Output.size() - 2);
+		EXPECT_THAT(Result.Output.substr(LastLine + 1), HasSubstr(Reason)) << Result.Output;
+	}
+
+	const fs::path Folder;
+};
+
+TEST_F(BadInput, StoriesNameFileLineAndColumn)
+{
+	const struct
+	{
+		const char* Text;
+		const char* Reason;
+	} Rows[] = {
+		{"start\n  opne pane A\n", "bad.story:2:3: unknown verb \"opne\""},
+		{"start\nopen pane\n", "bad.story:2:6: \"open pane\" takes 1 argument(s), not 0"},
+		{"start\nopen pane A B\n", "bad.story:2:6: \"open pane\" takes 1 argument(s), not 2"},
+		{"# ok\nopen pane \"A\n", "bad.story:2:11: the text has no closing quote"},
+		{"open pane A\n", "bad.story:1:1: the editor is not running"},
+		{"start\nstart\n", "bad.story:2:1: the editor is running already"},
+		{"start\nclose pane A\n", "bad.story:2:1: no pane \"A\" is open"},
+		{"start\nopen pane A\nopen pane A\n", "bad.story:3:1: a pane \"A\" is open already"},
+		{"start\nplay in pane\n", "bad.story:2:1: no pane is open to play in"},
+		{"start\nmake world Flat\n", "bad.story:2:1: a world is of type Editor, EditorPreview, Inactive or Game"},
+		{"start\nconsole Nothing.Here\n", "bad.story:2:1: no console command \"Nothing.Here\""},
+		{"start\nexpect log nowhere\n", "bad.story:2:1: the log does not hold \"nowhere\""},
+		{"start\nopen pane A\nexpect no log \"open pane A\"\n", "bad.story:3:1: the log holds \"open pane A\""},
+	};
+	for (const auto& Row : Rows)
+	{
+		Write("bad.story", Row.Text);
+		ExpectReason(L"bad.story", Row.Reason);
+	}
+	ExpectReason(L"missing.story", "missing.story: cannot be read");
+}
+
+TEST_F(BadInput, PluginsNameTheFileAndWhatIsWrong)
+{
+	const std::string Good = R"({"Modules": [{"Name": "Bad", "Type": "Editor"}]})";
+	const std::string List = R"({"BuildId": "x", "Modules": {"Bad": "UnrealEditor-Bad.dll"}})";
+	Write("plugins/Bad/Bad.uplugin", "{\n\t\"Modules\": [,]\n}");
+	ExpectReason(L"start.story", "Bad.uplugin:2:14: no JSON: ");
+	Write("plugins/Bad/Bad.uplugin", "[]");
+	ExpectReason(L"start.story", "Bad.uplugin:1:1: no JSON object");
+	Write("plugins/Bad/Bad.uplugin", R"({"Modules": [{"Type": "Editor"}]})");
+	ExpectReason(L"start.story", "Bad.uplugin: module 1 has no \"Name\" or no \"Type\"");
+
+	Write("plugins/Bad/Bad.uplugin", Good);
+	ExpectReason(L"start.story", "UnrealEditor.modules: cannot be read");
+	Write("plugins/Bad/Binaries/Win64/UnrealEditor.modules", R"({"BuildId": "x", "Extra": 1})");
+	ExpectReason(L"start.story", "UnrealEditor.modules: unknown key \"Extra\"");
+	Write("plugins/Bad/Binaries/Win64/UnrealEditor.modules", List);
+	ExpectReason(L"start.story", "UnrealEditor-Bad.dll: the library file is missing");
+	Write("plugins/Bad/Binaries/Win64/UnrealEditor-Bad.dll", "no library");
+	ExpectReason(L"start.story", "UnrealEditor-Bad.dll: the operating system could not load the library");
+
+	// Any library without the export will do.
+	wchar_t System[MAX_PATH];
+	GetSystemDirectoryW(System, MAX_PATH);
+	fs::remove(Folder / L"plugins/Bad/Binaries/Win64/UnrealEditor-Bad.dll");
+	fs::copy_file(fs::path(System) / L"version.dll", Folder / L"plugins/Bad/Binaries/Win64/UnrealEditor-Bad.dll");
+	ExpectReason(L"start.story", "UnrealEditor-Bad.dll: the library does not export InitializeModule");
+}
+
+TEST_F(BadInput, ArgumentsAreChecked)
+{
+	EXPECT_THAT(RunHeadlessEditor(L"").Output, HasSubstr("no story given: -story=<file>"));
+	EXPECT_THAT(RunHeadlessEditor(L"-sotry=x").Output, HasSubstr("unknown argument -sotry=x"));
+	EXPECT_EQ(RunHeadlessEditor(L"-sotry=x").ExitCode, 1u);
+}

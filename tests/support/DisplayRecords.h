@@ -1,0 +1,12 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// The runtime module's registry, as the modules beside it reach it.
+#pragma once
+
+#include "Modules/ModuleManager.h"
+#include "TonalithDisplayManager.h"
+#include "TonalithModuleInterface.h"
+
+inline FTonalithDisplayManager& DisplayRecords()
+{
+	return FModuleManager::LoadModuleChecked<ITonalithModule>("Tonalith").GetDisplayManager();
+}

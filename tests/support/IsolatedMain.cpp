@@ -1,0 +1,64 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// Runs each test in a process of its own: a process can have one editor session, and a fatal check ends it.
+#include <cstdio>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+#include <windows.h>
+
+namespace
+{
+/** Runs this program for one test and returns its exit code. */
+DWORD RunAlone(const std::string& Program, const std::string& Test)
+{
+	std::string CommandLine = "\"" + Program + "\" --gtest_brief=1 --gtest_filter=" + Test;
+	STARTUPINFOA Startup{};
+	Startup.cb = sizeof Startup;
+	PROCESS_INFORMATION Process{};
+	if (!CreateProcessA(nullptr, CommandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &Startup, &Process))
+	{
+		return GetLastError();
+	}
+	WaitForSingleObject(Process.hProcess, INFINITE);
+	DWORD Code = 0;
+	GetExitCodeProcess(Process.hProcess, &Code);
+	CloseHandle(Process.hThread);
+	CloseHandle(Process.hProcess);
+	return Code;
+}
+
+std::vector<std::string> AllTests()
+{
+	std::vector<std::string> Names;
+	const testing::UnitTest& Program = *testing::UnitTest::GetInstance();
+	for (int Suite = 0; Suite < Program.total_test_suite_count(); ++Suite)
+	{
+		const testing::TestSuite& Tests = *Program.GetTestSuite(Suite);
+		for (int Test = 0; Test < Tests.total_test_count(); ++Test)
+		{
+			Names.push_back(std::string(Tests.name()) + "." + Tests.GetTestInfo(Test)->name());
+		}
+	}
+	return Names;
+}
+} // namespace
+
+int main(int Count, char** Arguments)
+{
+	testing::InitGoogleTest(&Count, Arguments);
+	if (testing::GTEST_FLAG(filter) != "*" || testing::GTEST_FLAG(list_tests))
+	{
+		return RUN_ALL_TESTS();
+	}
+	int Failures = 0;
+	const std::vector<std::string> Tests = AllTests();
+	for (const std::string& Test : Tests)
+	{
+		const DWORD Code = RunAlone(Arguments[0], Test);
+		Failures += Code != 0;
+		std::printf("%s %s\n", Code == 0 ? "passed" : "FAILED", Test.c_str());
+		std::fflush(stdout);
+	}
+	std::printf("%zu passed, %d failed\n", Tests.size() - static_cast<size_t>(Failures), Failures);
+	return Failures == 0 && !Tests.empty() ? 0 : 1;
+}
