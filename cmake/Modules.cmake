@@ -17,6 +17,35 @@ endforeach()
 # Where plug-ins are staged: one folder a plug-in, laid out as in an engine project.
 set(TONALITH_STAGE ${CMAKE_BINARY_DIR}/stage)
 
+find_program(PYTHON python3 REQUIRED)
+set(HEADER_TOOL ${CMAKE_SOURCE_DIR}/host/HeaderTool/header_tool.py)
+
+# reflect(<module> SOURCE <folder> [KNOWN <modules>...])
+# Runs the header tool over the reflected headers below the folder; KNOWN are the modules whose types they may name.
+function(reflect module)
+	cmake_parse_arguments(ARG "" "SOURCE" "KNOWN" ${ARGN})
+	set(out ${CMAKE_BINARY_DIR}/reflection/${module})
+	set(headers "")
+	set(outputs ${out}/${module}.types)
+	file(GLOB_RECURSE candidates CONFIGURE_DEPENDS ${ARG_SOURCE}/*.h)
+	foreach(header IN LISTS candidates)
+		file(STRINGS ${header} include REGEX "#include .*\\.generated\\.h\"" LIMIT_COUNT 1)
+		if(include)
+			get_filename_component(stem ${header} NAME_WE)
+			list(APPEND headers ${header})
+			list(APPEND outputs ${out}/${stem}.generated.h ${out}/${stem}.gen.cpp)
+			set_source_files_properties(${out}/${stem}.gen.cpp PROPERTIES COMPILE_OPTIONS -Wno-invalid-offsetof)
+		endif()
+	endforeach()
+	list(TRANSFORM ARG_KNOWN REPLACE "(.+)" "${CMAKE_BINARY_DIR}/reflection/\\1/\\1.types" OUTPUT_VARIABLE known)
+	list(TRANSFORM known PREPEND "--known=" OUTPUT_VARIABLE known_arguments)
+	add_custom_command(OUTPUT ${outputs}
+		COMMAND ${PYTHON} ${HEADER_TOOL} --module ${module} --source ${ARG_SOURCE} --out ${out} ${known_arguments} ${headers}
+		DEPENDS ${HEADER_TOOL} ${headers} ${known} VERBATIM)
+	target_sources(${module} PRIVATE ${outputs})
+	target_include_directories(${module} PUBLIC ${out})
+endfunction()
+
 # add_plugin_module(<name> PLUGIN <name> SOURCE <folder> STAGE <folder> [LINK <targets>...])
 # Builds UnrealEditor-<name>.dll from all sources below the folder, as the engine's build tool would.
 function(add_plugin_module name)
@@ -30,6 +59,7 @@ function(add_plugin_module name)
 		INTERFACE ${upper}_API=DLLIMPORT)
 	target_include_directories(${name} PUBLIC ${ARG_SOURCE}/Public PRIVATE ${ARG_SOURCE}/Private)
 	target_link_libraries(${name} PUBLIC HeadlessEditor PRIVATE ${ARG_LINK})
+	reflect(${name} SOURCE ${ARG_SOURCE} KNOWN ${ARG_LINK})
 	set_target_properties(${name} PROPERTIES
 		OUTPUT_NAME UnrealEditor-${name}
 		RUNTIME_OUTPUT_DIRECTORY ${ARG_STAGE}/Binaries/Win64)

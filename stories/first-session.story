@@ -1,4 +1,6 @@
 # An artist's first session: two panes, one of them with a look, which goes along into play.
+new project
+asset /Script/Tonalith.TonalithObject /Game/Looks/Warm.Warm
 start
 expect log "broadcast FCoreDelegates::OnFEngineLoopInitComplete"
 make world Editor
@@ -6,7 +8,7 @@ open pane "FourPanes2x2.Viewport 1.Viewport0"
 open pane "FourPanes2x2.Viewport 1.Viewport1"
 
 # The second pane shows a look; the first one stays plain.
-console "Tonalith.Show Warm"
+console "Tonalith.Show /Game/Looks/Warm.Warm"
 console Tonalith.Describe
 expect log "active viewport: shown yes, look Warm"
 activate pane "FourPanes2x2.Viewport 1.Viewport0"

@@ -1,6 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // The headless editor: plays a story.
 //   HeadlessEditor -story=<file> [-project=<folder>] [-plugins=<folder>[;<folder>...]]
+// Each session of a story runs in a process of its own, which this one starts with "-session=<number>" added.
 // Exit codes: 0 played to the end, 1 a step failed or the input is bad, 3 a fatal check.
 #include "Misc/Paths.h"
 #include "StoryPlayer.h"
@@ -15,6 +16,9 @@ struct FCommandLine
 {
 	std::string Story;
 	FEngineLoopOptions Options;
+
+	/** The one session to play, or -1 for all. */
+	int Session = -1;
 };
 
 TArray<FString> SplitFolders(const std::wstring& List)
@@ -53,6 +57,10 @@ FCommandLine Parse(int Count, wchar_t** Arguments)
 		{
 			Result.Options.PluginFolders = SplitFolders(Value);
 		}
+		else if (Key == L"-session")
+		{
+			Result.Session = std::stoi(Value);
+		}
 		else
 		{
 			throw FStoryError(std::string("unknown argument ") + TCHAR_TO_UTF8(Argument.c_str()));
@@ -64,6 +72,27 @@ FCommandLine Parse(int Count, wchar_t** Arguments)
 	}
 	return Result;
 }
+
+/** Plays one session in a child process and returns its exit code. */
+int RunSession(size_t Session)
+{
+	std::wstring CommandLine = std::wstring(GetCommandLineW()) + L" -session=" + std::to_wstring(Session);
+	STARTUPINFOW Startup{};
+	Startup.cb = sizeof Startup;
+	PROCESS_INFORMATION Process{};
+	std::fflush(stdout);
+	if (!CreateProcessW(
+			nullptr, CommandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &Startup, &Process))
+	{
+		throw FStoryError("the session's process does not start");
+	}
+	WaitForSingleObject(Process.hProcess, INFINITE);
+	DWORD Code = 0;
+	GetExitCodeProcess(Process.hProcess, &Code);
+	CloseHandle(Process.hThread);
+	CloseHandle(Process.hProcess);
+	return static_cast<int>(Code);
+}
 } // namespace
 
 int wmain(int Count, wchar_t** Arguments)
@@ -73,7 +102,19 @@ int wmain(int Count, wchar_t** Arguments)
 	{
 		const FCommandLine CommandLine = Parse(Count, Arguments);
 		const FStory Story(CommandLine.Story);
-		FStoryPlayer(CommandLine.Options).Play(Story);
+		FStoryPlayer::Check(Story);
+		if (CommandLine.Session >= 0)
+		{
+			FStoryPlayer(CommandLine.Options).Play(Story, static_cast<size_t>(CommandLine.Session));
+			return 0;
+		}
+		for (size_t Session = 0; Session < Story.SessionCount(); ++Session)
+		{
+			if (const int Code = RunSession(Session))
+			{
+				return Code;
+			}
+		}
 		std::printf("%s: played to the end\n", CommandLine.Story.c_str());
 		return 0;
 	}

@@ -12,19 +12,28 @@ FStory::FStory(const std::string& File) : Name(File)
 		throw FStoryError(File + ": cannot be read");
 	}
 	size_t Number = 0;
+	size_t Starts = 0;
 	for (std::string Line; std::getline(Stream, Line);)
 	{
 		if (!Line.empty() && Line.back() == '\r')
 		{
 			Line.pop_back();
 		}
-		FStoryStep Step{++Number, {}, Line};
+		FStoryStep Step{++Number, {}, Line, 0};
 		Step.Words = Split(Step);
+		Starts += !Step.Words.empty() && Step.Words[0].Text == "start";
+		Step.Session = Starts > 0 ? Starts - 1 : 0;
 		if (!Step.Words.empty())
 		{
 			AllSteps.push_back(Step);
 		}
 	}
+}
+
+std::string FStory::Folder() const
+{
+	const size_t Slash = Name.find_last_of("/\\");
+	return Slash == std::string::npos ? std::string() : Name.substr(0, Slash);
 }
 
 FStoryError FStory::Error(const FStoryStep& Step, size_t Column, const std::string& Reason) const

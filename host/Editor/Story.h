@@ -29,6 +29,9 @@ struct FStoryStep
 
 	/** The line as it stands in the file. */
 	std::string Source;
+
+	/** Counted from 0: the editor that a second "start" starts belongs to session 1. */
+	size_t Session;
 };
 
 class FStory
@@ -37,7 +40,13 @@ public:
 	/** Reads a UTF-8 file. Throws FStoryError. */
 	explicit FStory(const std::string& File);
 
+	/** Each session needs a process of its own: an editor starts once in a process. */
+	size_t SessionCount() const { return AllSteps.empty() ? 0 : AllSteps.back().Session + 1; }
+
 	const std::vector<FStoryStep>& Steps() const { return AllSteps; }
+
+	/** The folder that the story lies in, UTF-8; empty for the current one. */
+	std::string Folder() const;
 
 	/** The error for a place in this story. */
 	FStoryError Error(const FStoryStep& Step, size_t Column, const std::string& Reason) const;

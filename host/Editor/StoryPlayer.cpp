@@ -2,16 +2,43 @@
 #include "StoryPlayer.h"
 
 #include "Misc/OutputDeviceRedirector.h"
+#include "Misc/Paths.h"
 
 #include <algorithm>
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <map>
+#include <sstream>
 
 namespace
 {
 FString Wide(const std::string& Text)
 {
 	return FString(UTF8_TO_TCHAR(Text.c_str()));
+}
+
+std::string ReadFile(const FString& Path)
+{
+	std::ifstream Stream(std::filesystem::path(*Path), std::ios::binary);
+	if (!Stream)
+	{
+		throw FDriverError(FString::Printf(TEXT("%s cannot be read"), *Path));
+	}
+	std::ostringstream Text;
+	Text << Stream.rdbuf();
+	return Text.str();
+}
+
+/** The text with the line ends that the editor writes, whatever the file was checked out with. */
+std::string WithEditorLineEnds(const std::string& Text)
+{
+	std::string Result;
+	for (const char Character : Text)
+	{
+		Result += Character == '\r' ? "" : Character == '\n' ? "\r\n" : std::string(1, Character);
+	}
+	return Result;
 }
 } // namespace
 
@@ -28,9 +55,12 @@ FStoryPlayer::~FStoryPlayer()
 const std::vector<FStoryPlayer::FVerb>& FStoryPlayer::Verbs()
 {
 	static const std::vector<FVerb> All{
+		{"new project", 0, &FStoryPlayer::NewProject},
+		{"asset", 2, &FStoryPlayer::Asset},
 		{"start", 0, &FStoryPlayer::Start},
 		{"make world", 1, &FStoryPlayer::MakeWorld},
 		{"open pane", 1, &FStoryPlayer::OpenPane},
+		{"layout", 1, &FStoryPlayer::Layout},
 		{"close pane", 1, &FStoryPlayer::ClosePane},
 		{"activate pane", 1, &FStoryPlayer::ActivatePane},
 		{"play in pane", 0, &FStoryPlayer::PlayInPane},
@@ -40,6 +70,7 @@ const std::vector<FStoryPlayer::FVerb>& FStoryPlayer::Verbs()
 		{"quit", 0, &FStoryPlayer::Quit},
 		{"expect log", 1, &FStoryPlayer::ExpectLog},
 		{"expect no log", 1, &FStoryPlayer::ExpectNoLog},
+		{"expect file", 2, &FStoryPlayer::ExpectFile},
 	};
 	return All;
 }
@@ -72,16 +103,33 @@ const FStoryPlayer::FVerb& FStoryPlayer::FindVerb(const FStory& Story, const FSt
 	throw Story.Error(Step, Step.Words[0].Column, "unknown verb \"" + Step.Words[0].Text + "\"");
 }
 
-void FStoryPlayer::Play(const FStory& Story)
+void FStoryPlayer::Check(const FStory& Story)
 {
+	FArguments Ignored;
+	bool bIsRunning = false;
+	for (const FStoryStep& Step : Story.Steps())
+	{
+		const FVerb& Verb = FindVerb(Story, Step, Ignored);
+		if (Verb.Do == &FStoryPlayer::Start && bIsRunning)
+		{
+			throw Story.Error(Step, Step.Words[0].Column, "the editor is running already");
+		}
+		bIsRunning = Verb.Do == &FStoryPlayer::Start || (bIsRunning && Verb.Do != &FStoryPlayer::Quit);
+	}
+}
+
+void FStoryPlayer::Play(const FStory& Story, size_t Session)
+{
+	StoryFolder = Wide(Story.Folder());
 	FArguments Arguments;
 	for (const FStoryStep& Step : Story.Steps())
 	{
-		FindVerb(Story, Step, Arguments);
-	}
-	for (const FStoryStep& Step : Story.Steps())
-	{
 		const FVerb& Verb = FindVerb(Story, Step, Arguments);
+		// What the project holds stays so in later sessions.
+		if (Step.Session != Session && !(Step.Session < Session && Verb.Do == &FStoryPlayer::Asset))
+		{
+			continue;
+		}
 		std::printf("%s\n", Step.Source.c_str());
 		std::fflush(stdout);
 		if (!Verb.Words.starts_with("expect"))
@@ -112,6 +160,21 @@ bool FStoryPlayer::WasLogged(const std::string& Text) const
 		Log.begin(), Log.end(), [&Text](const std::string& Line) { return Line.find(Text) != std::string::npos; });
 }
 
+void FStoryPlayer::NewProject(const FArguments&)
+{
+	std::error_code Failure;
+	std::filesystem::remove_all(std::filesystem::path(*Options.ProjectFolder) / "Saved", Failure);
+	if (Failure)
+	{
+		throw FDriverError(TEXT("the project's saved files cannot be removed"));
+	}
+}
+
+void FStoryPlayer::Asset(const FArguments& Arguments)
+{
+	Options.Assets.Add({Wide(Arguments[0]), Wide(Arguments[1])});
+}
+
 void FStoryPlayer::Start(const FArguments&)
 {
 	Driver.Start(Options);
@@ -132,6 +195,11 @@ void FStoryPlayer::MakeWorld(const FArguments& Arguments)
 void FStoryPlayer::OpenPane(const FArguments& Arguments)
 {
 	Driver.OpenPane(Wide(Arguments[0]));
+}
+
+void FStoryPlayer::Layout(const FArguments& Arguments)
+{
+	Driver.SetLayout(Wide(Arguments[0]));
 }
 
 void FStoryPlayer::ClosePane(const FArguments& Arguments)
@@ -182,5 +250,15 @@ void FStoryPlayer::ExpectNoLog(const FArguments& Arguments)
 	if (WasLogged(Arguments[0]))
 	{
 		throw FDriverError(TEXT("the log holds \"") + Wide(Arguments[0]) + TEXT("\""));
+	}
+}
+
+void FStoryPlayer::ExpectFile(const FArguments& Arguments)
+{
+	const FString File = FPaths::Combine(Options.ProjectFolder, Wide(Arguments[0]));
+	const std::string Actual = ReadFile(File);
+	if (Actual != WithEditorLineEnds(ReadFile(FPaths::Combine(StoryFolder, Wide(Arguments[1])))))
+	{
+		throw FDriverError(TEXT("the file is another one:\n") + Wide(Actual));
 	}
 }

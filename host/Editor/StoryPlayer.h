@@ -12,8 +12,11 @@ public:
 	explicit FStoryPlayer(const FEngineLoopOptions& InOptions);
 	~FStoryPlayer() override;
 
-	/** Checks all steps, then plays them. Throws FStoryError at the first one that is wrong or fails. */
-	void Play(const FStory& Story);
+	/** Checks all steps. Throws FStoryError at the first one that is wrong. */
+	static void Check(const FStory& Story);
+
+	/** Plays one session of a checked story. Throws FStoryError at the first step that fails. */
+	void Play(const FStory& Story, size_t Session);
 
 private:
 	using FArguments = std::vector<std::string>;
@@ -29,9 +32,12 @@ private:
 	static const std::vector<FVerb>& Verbs();
 	static const FVerb& FindVerb(const FStory& Story, const FStoryStep& Step, FArguments& OutArguments);
 
+	void NewProject(const FArguments& Arguments);
+	void Asset(const FArguments& Arguments);
 	void Start(const FArguments& Arguments);
 	void MakeWorld(const FArguments& Arguments);
 	void OpenPane(const FArguments& Arguments);
+	void Layout(const FArguments& Arguments);
 	void ClosePane(const FArguments& Arguments);
 	void ActivatePane(const FArguments& Arguments);
 	void PlayInPane(const FArguments& Arguments);
@@ -41,11 +47,15 @@ private:
 	void Quit(const FArguments& Arguments);
 	void ExpectLog(const FArguments& Arguments);
 	void ExpectNoLog(const FArguments& Arguments);
+	void ExpectFile(const FArguments& Arguments);
 
 	bool WasLogged(const std::string& Text) const;
 	void Serialize(const TCHAR* Text, ELogVerbosity::Type Verbosity, const FName& Category) override;
 
 	FEngineLoopOptions Options;
+
+	/** Of the story that is played. */
+	FString StoryFolder;
 	FEditorDriver Driver;
 
 	/** What the last step that is no expectation logged; UTF-8. */

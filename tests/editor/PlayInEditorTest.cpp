@@ -4,7 +4,7 @@
 #include "Editor.h"
 #include "EditorTest.h"
 #include "SLevelViewport.h"
-#include "TonalithObject.h"
+#include "UObject/UObjectGlobals.h"
 
 namespace
 {
@@ -25,8 +25,8 @@ protected:
 		Driver.Start(Options);
 		Driver.OpenPane(Left);
 		Driver.OpenPane(Right);
-		Look = new UTonalithObject();
-		OtherLook = new UTonalithObject();
+		Look = NewObject<UTonalithObject>();
+		OtherLook = NewObject<UTonalithObject>();
 	}
 
 	FTonalithDisplayConfiguration& Record(const FString& Key)
@@ -40,13 +40,13 @@ protected:
 
 TEST_F(PlayInEditor, TakesTheWholeRecordOfTheActivePane)
 {
-	Record(Left) = {true, 0.25f, Look};
-	Record(Right) = {true, 0.75f, OtherLook};
+	Record(Left) = Configured(true, 0.25f, Look);
+	Record(Right) = Configured(true, 0.75f, OtherLook);
 	Driver.ActivatePane(Left);
 	Driver.PlayInPane();
 	EXPECT_TRUE(PlayRecord().bDisplay);
 	EXPECT_EQ(PlayRecord().Weight, 0.25f);
-	EXPECT_EQ(PlayRecord().Look, Look);
+	EXPECT_EQ(PlayRecord().Look.Get(), Look);
 	Driver.EndPlay();
 
 	// A look that is switched off goes along switched off.
@@ -54,24 +54,24 @@ TEST_F(PlayInEditor, TakesTheWholeRecordOfTheActivePane)
 	Driver.ActivatePane(Right);
 	Driver.PlayInWindow();
 	EXPECT_FALSE(PlayRecord().bDisplay);
-	EXPECT_EQ(PlayRecord().Look, OtherLook);
+	EXPECT_EQ(PlayRecord().Look.Get(), OtherLook);
 	Driver.EndPlay();
 }
 
 TEST_F(PlayInEditor, WithoutALookThePlayRecordStaysAsItIs)
 {
-	Record(Right) = {true, 0.25f, nullptr};
+	Record(Right) = Configured(true, 0.25f, nullptr);
 	Driver.PlayInPane();
 	const FTonalithDisplayConfiguration Default;
 	EXPECT_EQ(PlayRecord().bDisplay, Default.bDisplay);
 	EXPECT_EQ(PlayRecord().Weight, Default.Weight);
-	EXPECT_EQ(PlayRecord().Look, nullptr);
+	EXPECT_EQ(PlayRecord().Look.Get(), nullptr);
 }
 
 TEST_F(PlayInEditor, CancelledSessionsLeaveNothingBehindThatTheNextWouldTake)
 {
-	Record(Left) = {true, 1.0f, Look};
-	Record(Right) = {true, 1.0f, OtherLook};
+	Record(Left) = Configured(true, 1.0f, Look);
+	Record(Right) = Configured(true, 1.0f, OtherLook);
 	for (const EPlayCancellation Cancellation :
 		{EPlayCancellation::MapSaveRefused, EPlayCancellation::NotAuthorized, EPlayCancellation::ErrorPrompt})
 	{
@@ -80,7 +80,7 @@ TEST_F(PlayInEditor, CancelledSessionsLeaveNothingBehindThatTheNextWouldTake)
 		EXPECT_EQ(GEditor->GetPIEViewport(), nullptr);
 		Driver.ActivatePane(Right);
 		Driver.PlayInPane();
-		EXPECT_EQ(PlayRecord().Look, OtherLook);
+		EXPECT_EQ(PlayRecord().Look.Get(), OtherLook);
 		Driver.EndPlay();
 	}
 }

@@ -21,7 +21,7 @@ TEST_F(RuntimeContract, RecordsStayWhereTheyAreUntilRemoved)
 		EXPECT_EQ(DisplayRecords().GetDisplayConfiguration(&Client), nullptr);
 		Records.push_back(&DisplayRecords().FindOrAddDisplayConfiguration(&Client));
 		EXPECT_FALSE(Records.back()->bDisplay);
-		EXPECT_EQ(Records.back()->Look, nullptr);
+		EXPECT_EQ(Records.back()->Look.Get(), nullptr);
 	}
 	for (size_t Index = 0; Index < Clients.size(); Index += 2)
 	{

@@ -6,6 +6,15 @@
 #include "TonalithDisplayManager.h"
 #include "TonalithModuleInterface.h"
 
+inline FTonalithDisplayConfiguration Configured(bool bDisplay, float Weight, UTonalithObject* Look)
+{
+	FTonalithDisplayConfiguration Configuration;
+	Configuration.bDisplay = bDisplay;
+	Configuration.Weight = Weight;
+	Configuration.Look = Look;
+	return Configuration;
+}
+
 inline FTonalithDisplayManager& DisplayRecords()
 {
 	return FModuleManager::LoadModuleChecked<ITonalithModule>("Tonalith").GetDisplayManager();

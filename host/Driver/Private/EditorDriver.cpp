@@ -78,6 +78,16 @@ void FEditorDriver::OpenPane(const FString& Key)
 	LevelEditor().OpenPane(FName(*Key));
 }
 
+void FEditorDriver::SetLayout(const FString& Layout)
+{
+	RequireStarted();
+	HostTrace::Line(TEXT("layout %s"), *Layout);
+	if (!LevelEditor().SetLayout(Layout))
+	{
+		throw FDriverError(FString::Printf(TEXT("no layout \"%s\""), *Layout));
+	}
+}
+
 void FEditorDriver::ClosePane(const FString& Key)
 {
 	RequireStarted();

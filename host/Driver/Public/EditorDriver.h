@@ -34,6 +34,9 @@ public:
 	/** Opens a pane under the key that names it within its layout; it becomes the active one. */
 	void OpenPane(const FString& Key);
 
+	/** Changes to a layout: OnePane, TwoPanesHoriz or FourPanes2x2. */
+	void SetLayout(const FString& Layout);
+
 	void ClosePane(const FString& Key);
 	void ActivatePane(const FString& Key);
 

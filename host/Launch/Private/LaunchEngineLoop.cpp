@@ -47,6 +47,10 @@ bool FEngineLoop::Init(const FEngineLoopOptions& Options, FString& OutError) noe
 	HostLog::OpenFile(FPaths::Combine(FPaths::ProjectLogDir(), TEXT("HeadlessEditor.log")));
 	HostLog::StartTimeStamps();
 	HostCulture::Set(Options.Culture);
+	for (const FHostAsset& Asset : Options.Assets)
+	{
+		HostAssets::Declare(Asset);
+	}
 	for (const FString& Folder : Options.PluginFolders)
 	{
 		if (!HostPlugins::Discover(Folder, OutError))
@@ -67,6 +71,7 @@ bool FEngineLoop::Init(const FEngineLoopOptions& Options, FString& OutError) noe
 	{
 		return false;
 	}
+	HostAssets::LoadAll();
 	if (!bIsCommandlet)
 	{
 		MakeEditor();

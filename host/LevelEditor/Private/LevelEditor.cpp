@@ -26,6 +26,33 @@ TSharedRef<SLevelViewport> FLevelEditorModule::OpenPane(FName ConfigKey)
 	return Pane;
 }
 
+bool FLevelEditorModule::SetLayout(const FString& Layout)
+{
+	static const TMap<FString, int32> PaneCounts = []
+	{
+		TMap<FString, int32> Counts;
+		Counts.Add(TEXT("OnePane"), 1);
+		Counts.Add(TEXT("TwoPanesHoriz"), 2);
+		Counts.Add(TEXT("FourPanes2x2"), 4);
+		return Counts;
+	}();
+	const int32* Count = PaneCounts.Find(Layout);
+	if (!Count)
+	{
+		return false;
+	}
+	const int32 OldCount = Panes.Num();
+	for (int32 Index = 0; Index < *Count; ++Index)
+	{
+		OpenPane(FName(*FString::Printf(TEXT("%s.Viewport 1.Viewport%d"), *Layout, Index)));
+	}
+	for (int32 Index = 0; Index < OldCount; ++Index)
+	{
+		ClosePane(Panes[0].ToSharedRef());
+	}
+	return true;
+}
+
 TSharedPtr<SLevelViewport> FLevelEditorModule::FindPane(FName ConfigKey) const
 {
 	const TSharedPtr<SLevelViewport>* Found = Panes.FindByPredicate(

@@ -16,6 +16,13 @@ public:
 	/** Opens a pane and makes it the current one. */
 	TSharedRef<SLevelViewport> OpenPane(FName ConfigKey);
 
+	/**
+	 * Opens the panes of a layout such as "FourPanes2x2", then closes those of the layout before. Their keys are
+	 * "<layout>.Viewport 1.Viewport<n>".
+	 * @return false for an unknown layout
+	 */
+	bool SetLayout(const FString& Layout);
+
 	/** Null when no pane has the key. */
 	TSharedPtr<SLevelViewport> FindPane(FName ConfigKey) const;
 

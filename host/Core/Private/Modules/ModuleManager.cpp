@@ -108,6 +108,7 @@ EModuleLoadResult FModuleManager::MakeModule(const FName InModuleName, FModuleIn
 	{
 		return EModuleLoadResult::FileIncompatible;
 	}
+	ProcessLoadedObjectsCallback.Broadcast();
 	Info.Module = TUniquePtr<IModuleInterface>(reinterpret_cast<FInitializeModule>(reinterpret_cast<void*>(Export))());
 	return Info.Module.IsValid() ? EModuleLoadResult::Success : EModuleLoadResult::FailedToInitialize;
 }

@@ -112,6 +112,12 @@ public:
 	int32 Add(ElementType&& Element) { return Emplace(std::move(Element)); }
 
 	template <typename... ArgTypes>
+	ElementType& Emplace_GetRef(ArgTypes&&... Args)
+	{
+		return (*this)[Emplace(std::forward<ArgTypes>(Args)...)];
+	}
+
+	template <typename... ArgTypes>
 	int32 Emplace(ArgTypes&&... Args)
 	{
 		Storage.emplace_back(std::forward<ArgTypes>(Args)...);

@@ -71,6 +71,9 @@ public:
 
 	FModulesChangedEvent& OnModulesChanged() { return ModulesChangedEvent; }
 
+	/** Sent after a library was loaded and before its module starts: its types are made now. */
+	FSimpleMulticastDelegate& OnProcessLoadedObjectsCallback() { return ProcessLoadedObjectsCallback; }
+
 	template <class T>
 	static T& LoadModuleChecked(const FName InModuleName)
 	{
@@ -114,6 +117,7 @@ private:
 
 	TMap<FName, TSharedPtr<FModuleInfo>> Modules;
 	FModulesChangedEvent ModulesChangedEvent;
+	FSimpleMulticastDelegate ProcessLoadedObjectsCallback;
 	int32 CurrentLoadOrder = 1;
 };
 

@@ -11,6 +11,7 @@ COREUOBJECT_API bool UObjectInitialized();
 
 namespace HostObjects
 {
+/** From now on objects can be made; those of the types whose libraries are loaded already are. */
 COREUOBJECT_API void Init();
 
 /** Destroys all objects that are left; afterwards no object may be made. */
@@ -25,4 +26,7 @@ int32 SerialNumber(int32 Index);
 
 /** The object, or null when it is dead, garbage, or another one lives at the index. */
 UObject* Find(int32 Index, int32 SerialNumber);
+
+/** The object of that name directly in the outer one, or null. */
+UObject* FindByName(const UObject* Outer, FName Name);
 } // namespace HostObjects

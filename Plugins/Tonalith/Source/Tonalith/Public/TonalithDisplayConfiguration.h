@@ -3,22 +3,30 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "TonalithObject.h"
+#include "UObject/ObjectPtr.h"
 
 #include <cstddef>
 
-class UTonalithObject;
+#include "TonalithDisplayConfiguration.generated.h"
 
-/** A plain value of 16 bytes; other modules copy it whole. */
+/** A plain value of 16 bytes; other modules copy it whole. The names of its members are a file format. */
+USTRUCT()
 struct FTonalithDisplayConfiguration
 {
+	GENERATED_BODY()
+
 	/** Whether the look is drawn over the viewport. */
+	UPROPERTY()
 	bool bDisplay = false;
 
 	/** How much of the look shows: 0 the plain picture, 1 the look in full. */
+	UPROPERTY()
 	float Weight = 1.0f;
 
-	/** The look; null when none is chosen. Not owned. */
-	UTonalithObject* Look = nullptr;
+	/** The look; none is chosen when null. */
+	UPROPERTY()
+	TObjectPtr<UTonalithObject> Look;
 };
 
 static_assert(sizeof(FTonalithDisplayConfiguration) == 16);

@@ -2,10 +2,13 @@
 // The look asset.
 #pragma once
 
-#include "UObject/Object.h"
+#include "UObject/NoExportTypes.h"
 
-struct FTonalithAPI_ImageDesc;
+#include "TonalithObject.generated.h"
 
+/** A look: what is done to the colours of a picture. */
+UCLASS(MinimalAPI)
 class UTonalithObject : public UObject
 {
+	GENERATED_BODY()
 };

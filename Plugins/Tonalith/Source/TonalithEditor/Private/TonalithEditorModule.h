@@ -8,6 +8,8 @@
 #include "Modules/ModuleInterface.h"
 #include "UObject/WeakObjectPtr.h"
 
+class FLevelEditorViewportClient;
+class FViewport;
 class FViewportClient;
 struct FTonalithDisplayConfiguration;
 
@@ -33,19 +35,27 @@ private:
 	void UnbindEditor();
 	void OnEngineLoopInitComplete();
 
-	// Level viewports.
+	// Level viewports: each client gets the record stored under its viewport's identifier, and gives it back when it goes.
 	void OnLevelViewportClientListChanged();
+	void SaveGoneViewports(const TArray<FLevelEditorViewportClient*>& Clients);
+	void SetupViewportDisplaySettings(FLevelEditorViewportClient* Client);
+
+	/** Tracks the viewport's client without storing anything; fatal for one that is not in the editor's level list. */
+	void TrackViewport(FViewport* Viewport);
+	bool IsTracked(const FViewportClient* Client) const;
 
 	// Play in editor: a session starts with the look of the viewport that was active when it was launched.
 	void OnPreBeginPIE(const bool bIsSimulating);
 	void OnPostPIEStarted(const bool bIsSimulating);
 	void OnGameViewportClientCreated();
 
-	/** A level viewport whose record is given back when its client is gone. */
 	struct FTrackedViewport
 	{
 		/** A key: the client may be dead. */
 		FViewportClient* Client;
+
+		/** The configuration key of the client's pane. */
+		FName ViewportIdentifier;
 	};
 
 	TArray<FTrackedViewport> TrackedViewports;

@@ -6,6 +6,7 @@
 #include "TonalithDisplayManager.h"
 #include "TonalithModuleInterface.h"
 #include "TonalithObject.h"
+#include "UObject/UObjectGlobals.h"
 #include "UnrealClient.h"
 
 DEFINE_LOG_CATEGORY_STATIC(LogTonalithHands, Log, All);
@@ -19,37 +20,20 @@ FTonalithDisplayConfiguration& ActiveRecord()
 	return Manager.FindOrAddDisplayConfiguration(GEditor->GetActiveViewport()->GetClient());
 }
 
-/** The looks made so far. */
-TMap<FName, UTonalithObject*> Looks;
-
 void Show(const TArray<FString>& Arguments)
 {
 	check(Arguments.Num() == 1);
-	UTonalithObject*& Look = Looks.FindOrAdd(FName(*Arguments[0]));
-	if (!Look)
-	{
-		Look = new UTonalithObject();
-	}
-	ActiveRecord() = {true, 1.0f, Look};
-}
-
-FString NameOf(const UTonalithObject* Look)
-{
-	for (const auto& Entry : Looks)
-	{
-		if (Entry.Value == Look)
-		{
-			return Entry.Key.ToString();
-		}
-	}
-	return TEXT("none");
+	UObject* Look = StaticLoadObject(UTonalithObject::StaticClass(), *Arguments[0]);
+	checkf(Look, TEXT("no look %s"), *Arguments[0]);
+	ActiveRecord().bDisplay = true;
+	ActiveRecord().Look = static_cast<UTonalithObject*>(Look);
 }
 
 void Describe(const TArray<FString>&)
 {
 	const FTonalithDisplayConfiguration& Record = ActiveRecord();
 	UE_LOG(LogTonalithHands, Display, TEXT("active viewport: shown %s, look %s"),
-		Record.bDisplay ? TEXT("yes") : TEXT("no"), *NameOf(Record.Look));
+		Record.bDisplay ? TEXT("yes") : TEXT("no"), Record.Look ? *Record.Look->GetName() : TEXT("none"));
 }
 
 const FAutoConsoleCommand ShowCommand(TEXT("Tonalith.Show"), TEXT("Shows the named look in the active viewport."),

@@ -1,5 +1,8 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "UObject/UObjectGlobals.h"
 #include "UObject/WeakObjectPtr.h"
+
+#include "Modules/ModuleManager.h"
 
 #include <vector>
 
@@ -41,6 +44,8 @@ bool UObjectInitialized()
 void HostObjects::Init()
 {
 	bInitialized = true;
+	FModuleManager::Get().OnProcessLoadedObjectsCallback().AddStatic(&ProcessNewlyLoadedUObjects);
+	ProcessNewlyLoadedUObjects();
 }
 
 void HostObjects::Shutdown()
@@ -85,11 +90,17 @@ UObject* HostObjects::Find(int32 Index, int32 SerialNumber)
 	return Item.Object && Item.SerialNumber == SerialNumber && !Item.Object->IsGarbage() ? Item.Object : nullptr;
 }
 
-UObject::UObject() : InternalIndex(HostObjects::Add(this)) {}
-
-UObject::~UObject()
+UObject* HostObjects::FindByName(const UObject* Outer, FName Name)
 {
-	HostObjects::Remove(InternalIndex);
+	for (const FObjectItem& Item : Items())
+	{
+		if (Item.Object && Item.Object->GetFName() == Name && Item.Object->GetOuter() == Outer &&
+			!Item.Object->IsGarbage())
+		{
+			return Item.Object;
+		}
+	}
+	return nullptr;
 }
 
 void CollectGarbage()

@@ -1,0 +1,181 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "UObject/Class.h"
+
+#include "ObjectConfig.h"
+#include "UObject/GeneratedCppIncludes.h"
+
+namespace
+{
+std::vector<FRegisterCompiledInInfo::FMake>& PendingTypes()
+{
+	static std::vector<FRegisterCompiledInInfo::FMake> Makers;
+	return Makers;
+}
+
+const FString& FindMetaData(const TMap<FName, FString>& MetaData, const FName& Key)
+{
+	static const FString None;
+	const FString* Found = MetaData.Find(Key);
+	return Found ? *Found : None;
+}
+
+void Fill(TMap<FName, FString>& Target, HostReflection::FMetaData MetaData)
+{
+	for (const auto& [Key, Value] : MetaData)
+	{
+		Target.Add(FName(Key), FString(Value));
+	}
+}
+
+/** A type object of the given class. */
+template <class T>
+T* NewType(UClass* TypeClass, UObject* Outer, const TCHAR* Name)
+{
+	T* Type = static_cast<T*>(::operator new(sizeof(T)));
+	const FObjectInitializer Initializer(Type, TypeClass, Outer, FName(Name), RF_Public);
+	return new (Type) T();
+}
+
+/** Classes that the object system itself is made of; they lie in no package. */
+template <class T>
+UClass* CoreClass(const TCHAR* Name, UClass* Super)
+{
+	UClass* Class = NewType<UClass>(nullptr, nullptr, Name);
+	Class->SuperStruct = Super;
+	Class->PropertiesSize = sizeof(T);
+	Class->ClassFlags = CLASS_Native;
+	Class->ClassConstructor = [](const FObjectInitializer& Initializer) { new (Initializer.GetObj()) T(); };
+	return Class;
+}
+} // namespace
+
+UStruct::UStruct() = default;
+UStruct::~UStruct() = default;
+
+UClass* UObject::StaticClass()
+{
+	static UClass* const Class = CoreClass<UObject>(TEXT("Object"), nullptr);
+	return Class;
+}
+
+UClass* UClass::StaticClass()
+{
+	static UClass* const Class = CoreClass<UClass>(TEXT("Class"), UObject::StaticClass());
+	return Class;
+}
+
+UClass* UScriptStruct::StaticClass()
+{
+	static UClass* const Class = CoreClass<UScriptStruct>(TEXT("ScriptStruct"), UObject::StaticClass());
+	return Class;
+}
+
+UClass* UPackage::StaticClass()
+{
+	static UClass* const Class = CoreClass<UPackage>(TEXT("Package"), UObject::StaticClass());
+	return Class;
+}
+
+bool UStruct::IsChildOf(const UStruct* SomeBase) const
+{
+	const UStruct* Type = this;
+	while (Type && Type != SomeBase)
+	{
+		Type = Type->SuperStruct;
+	}
+	return Type != nullptr;
+}
+
+FProperty* UStruct::FindPropertyByName(FName Name) const
+{
+	for (const auto& Property : Properties)
+	{
+		if (Property->GetFName() == Name)
+		{
+			return Property.get();
+		}
+	}
+	return SuperStruct ? SuperStruct->FindPropertyByName(Name) : nullptr;
+}
+
+const FString& UStruct::GetMetaData(const FName& Key) const
+{
+	return FindMetaData(MetaData, Key);
+}
+
+const FString& FProperty::GetMetaData(const FName& Key) const
+{
+	return FindMetaData(MetaData, Key);
+}
+
+UObject* UClass::GetDefaultObject()
+{
+	if (!DefaultObject && ClassConstructor)
+	{
+		const FName Name(*(TEXT("Default__") + GetName()));
+		DefaultObject = StaticConstructObject(this, GetOuter(), Name, RF_Public | RF_ClassDefaultObject);
+		if (HasAnyClassFlags(CLASS_Config))
+		{
+			HostConfig::Load(*DefaultObject);
+		}
+	}
+	return DefaultObject;
+}
+
+UClass* HostReflection::NewClass(const TCHAR* Package, const TCHAR* Name, size_t Size, uint32 Flags,
+	const TCHAR* ConfigName, UClass::FConstructor Constructor, UClass* Super)
+{
+	UClass* Class = NewType<UClass>(UClass::StaticClass(), CreatePackage(Package), Name);
+	Class->SuperStruct = Super;
+	Class->PropertiesSize = static_cast<int32>(Size);
+	Class->ClassFlags = Flags;
+	Class->ClassConfigName = FName(ConfigName);
+	Class->ClassConstructor = Constructor;
+	return Class;
+}
+
+UScriptStruct* HostReflection::NewStruct(const TCHAR* Package, const TCHAR* Name, size_t Size,
+	const UScriptStruct::FOperations& Operations, UScriptStruct* Super)
+{
+	UScriptStruct* Struct = NewType<UScriptStruct>(UScriptStruct::StaticClass(), CreatePackage(Package), Name);
+	Struct->SuperStruct = Super;
+	Struct->PropertiesSize = static_cast<int32>(Size);
+	Struct->Operations = Operations;
+	return Struct;
+}
+
+void HostReflection::AddMetaData(UStruct* Type, FMetaData MetaData)
+{
+	Fill(Type->MetaData, MetaData);
+}
+
+void HostReflection::AddProperty(UStruct* Type, FProperty* Property, FMetaData MetaData)
+{
+	Type->Properties.emplace_back(Property);
+	Fill(Property->MetaData, MetaData);
+}
+
+FRegisterCompiledInInfo::FRegisterCompiledInInfo(std::initializer_list<FMake> Makers)
+{
+	PendingTypes().insert(PendingTypes().end(), Makers);
+}
+
+void ProcessNewlyLoadedUObjects()
+{
+	if (!UObjectInitialized())
+	{
+		return;
+	}
+	std::vector<UStruct*> Types;
+	for (const FRegisterCompiledInInfo::FMake Make : std::exchange(PendingTypes(), {}))
+	{
+		Types.push_back(Make());
+	}
+	for (UStruct* Type : Types)
+	{
+		if (UClass* Class = dynamic_cast<UClass*>(Type))
+		{
+			Class->GetDefaultObject();
+		}
+	}
+}

@@ -1,0 +1,104 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "UObject/UObjectGlobals.h"
+
+namespace
+{
+FObjectInitializer*& Innermost()
+{
+	static FObjectInitializer* Current = nullptr;
+	return Current;
+}
+
+FName UniqueName(UObject* Outer, const UClass& Class)
+{
+	for (int32 Number = 0;; ++Number)
+	{
+		const FName Name(*FString::Printf(TEXT("%s_%d"), *Class.GetName(), Number));
+		if (!HostObjects::FindByName(Outer, Name))
+		{
+			return Name;
+		}
+	}
+}
+} // namespace
+
+FObjectInitializer::FObjectInitializer(
+	UObject* InObject, UClass* InClass, UObject* InOuter, FName InName, EObjectFlags InFlags)
+	: Object(InObject), Class(InClass), Outer(InOuter), Name(InName), Flags(InFlags), Enclosing(Innermost())
+{
+	Innermost() = this;
+}
+
+FObjectInitializer::~FObjectInitializer()
+{
+	Innermost() = Enclosing;
+}
+
+const FObjectInitializer& FObjectInitializer::Get()
+{
+	checkf(Innermost(), TEXT("Objects of this class are made by NewObject only."));
+	return *Innermost();
+}
+
+const FObjectInitializer& GetObjectInitializer()
+{
+	return FObjectInitializer::Get();
+}
+
+void* GetObjectStorage(const FObjectInitializer& Initializer)
+{
+	return Initializer.GetObj();
+}
+
+void FObjectInitializer::Settle(UObject& Constructed)
+{
+	const FObjectInitializer* Current = Innermost();
+	if (Current && Current->Object == &Constructed)
+	{
+		Constructed.ClassPrivate = Current->Class;
+		Constructed.OuterPrivate = Current->Outer;
+		Constructed.NamePrivate = Current->Name;
+		Constructed.ObjectFlags = Current->Flags;
+	}
+}
+
+UObject* StaticConstructObject(UClass* Class, UObject* Outer, FName Name, EObjectFlags Flags)
+{
+	checkf(Class->ClassConstructor, TEXT("Class %s is abstract."), *Class->GetName());
+	const FName Used = Name.IsNone() ? UniqueName(Outer, *Class) : Name;
+	checkf(!HostObjects::FindByName(Outer, Used), TEXT("The name %s is in use."), *Used.ToString());
+	UObject* Object = static_cast<UObject*>(::operator new(static_cast<size_t>(Class->GetPropertiesSize())));
+	const FObjectInitializer Initializer(Object, Class, Outer, Used, Flags);
+	Class->ClassConstructor(Initializer);
+	return Object;
+}
+
+void CheckIsClassChildOf_Internal(const UClass* Parent, const UClass* Child)
+{
+	checkf(Child && Child->IsChildOf(Parent), TEXT("NewObject called with %s, which is no child of %s"),
+		Child ? *Child->GetPathName() : TEXT("no class"), *Parent->GetPathName());
+}
+
+UPackage* GetTransientPackage()
+{
+	return CreatePackage(TEXT("/Engine/Transient"));
+}
+
+UPackage* CreatePackage(const TCHAR* PackageName)
+{
+	const FName Name(PackageName);
+	UObject* Found = HostObjects::FindByName(nullptr, Name);
+	return Found ? static_cast<UPackage*>(Found) : NewObject<UPackage>(nullptr, UPackage::StaticClass(), Name);
+}
+
+UObject* StaticFindObject(UClass* Class, const TCHAR* Path)
+{
+	const FString Whole(Path);
+	const int32 Point = Whole.Find(TEXT("."));
+	UObject* Found = HostObjects::FindByName(nullptr, FName(Whole.Mid(0, Point == INDEX_NONE ? Whole.Len() : Point)));
+	if (Found && Point != INDEX_NONE)
+	{
+		Found = HostObjects::FindByName(Found, FName(Whole.Mid(Point + 1)));
+	}
+	return Found && Found->IsA(Class) ? Found : nullptr;
+}

@@ -1,0 +1,83 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// Types as objects: structs, classes, and what is common to both.
+#pragma once
+
+#include "UObject/Object.h"
+
+#include <memory>
+#include <vector>
+
+class FProperty;
+
+/** A reflected type: its properties, its base and its metadata. */
+class COREUOBJECT_API UStruct : public UObject
+{
+public:
+	UStruct();
+	~UStruct() override;
+
+	/** Null for a type without reflected base. */
+	UStruct* GetSuperStruct() const { return SuperStruct; }
+
+	/** In bytes. */
+	int32 GetPropertiesSize() const { return PropertiesSize; }
+
+	bool IsChildOf(const UStruct* SomeBase) const;
+
+	/** The properties of this type without those of its base, in the order of declaration. */
+	const std::vector<std::unique_ptr<FProperty>>& GetOwnProperties() const { return Properties; }
+
+	/** Looks in the base too; null when there is none. */
+	FProperty* FindPropertyByName(FName Name) const;
+
+	/** Empty when there is none of that key. */
+	const FString& GetMetaData(const FName& Key) const;
+
+	TMap<FName, FString> MetaData;
+	UStruct* SuperStruct = nullptr;
+	int32 PropertiesSize = 0;
+	std::vector<std::unique_ptr<FProperty>> Properties;
+};
+
+/** A reflected struct: a plain value. */
+class COREUOBJECT_API UScriptStruct : public UStruct
+{
+public:
+	static UClass* StaticClass();
+
+	/** How values of the type come to life, are copied and die. */
+	struct FOperations
+	{
+		void (*Construct)(void* Value);
+		void (*Destroy)(void* Value);
+	};
+
+	FOperations Operations{};
+};
+
+/** A reflected class. */
+class COREUOBJECT_API UClass : public UStruct
+{
+public:
+	using FConstructor = void (*)(const FObjectInitializer&);
+
+	static UClass* StaticClass();
+
+	bool HasAnyClassFlags(EClassFlags Flags) const { return (ClassFlags & Flags) != 0; }
+
+	UClass* GetSuperClass() const { return static_cast<UClass*>(SuperStruct); }
+
+	/** The object that holds the defaults; made on the first call, its config read from the file. */
+	UObject* GetDefaultObject();
+
+	uint32 ClassFlags = CLASS_None;
+
+	/** Name of the config file, such as "EditorPerProjectUserSettings". */
+	FName ClassConfigName;
+
+	/** Null for abstract classes. */
+	FConstructor ClassConstructor = nullptr;
+
+private:
+	UObject* DefaultObject = nullptr;
+};

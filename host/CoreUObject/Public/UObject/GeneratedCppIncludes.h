@@ -1,0 +1,77 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// What the header tool's sources are written with.
+#pragma once
+
+#include "UObject/ObjectPtr.h"
+#include "UObject/UObjectGlobals.h"
+#include "UObject/UnrealType.h"
+
+#include <initializer_list>
+#include <new>
+
+namespace HostReflection
+{
+using FMetaData = std::initializer_list<std::pair<const TCHAR*, const TCHAR*>>;
+
+COREUOBJECT_API UClass* NewClass(const TCHAR* Package, const TCHAR* Name, size_t Size, uint32 Flags,
+	const TCHAR* ConfigName, UClass::FConstructor Constructor, UClass* Super);
+
+COREUOBJECT_API UScriptStruct* NewStruct(const TCHAR* Package, const TCHAR* Name, size_t Size,
+	const UScriptStruct::FOperations& Operations, UScriptStruct* Super);
+
+template <class T>
+UScriptStruct* NewStruct(const TCHAR* Package, const TCHAR* Name, UScriptStruct* Super)
+{
+	return NewStruct(Package, Name, sizeof(T),
+		{[](void* Value) { new (Value) T(); }, [](void* Value) { static_cast<T*>(Value)->~T(); }}, Super);
+}
+
+COREUOBJECT_API void AddMetaData(UStruct* Type, FMetaData MetaData);
+
+/** Takes the property over. */
+COREUOBJECT_API void AddProperty(UStruct* Type, FProperty* Property, FMetaData MetaData);
+} // namespace HostReflection
+
+/** Announces the types of a library while it is loaded; they are made when the object system is ready for them. */
+struct FRegisterCompiledInInfo
+{
+	using FMake = UStruct* (*)();
+
+	COREUOBJECT_API FRegisterCompiledInInfo(std::initializer_list<FMake> Makers);
+};
+
+#define HOST_DEFINE_STRUCT(Name)                                                                                       \
+	UScriptStruct* Z_Construct_UScriptStruct_##Name()                                                                  \
+	{                                                                                                                  \
+		static UScriptStruct* const Type = Z_Construct_UScriptStruct_##Name##_Statics::Make();                         \
+		return Type;                                                                                                   \
+	}                                                                                                                  \
+	UScriptStruct* Name::StaticStruct()                                                                                \
+	{                                                                                                                  \
+		return Z_Construct_UScriptStruct_##Name();                                                                     \
+	}                                                                                                                  \
+	template <>                                                                                                        \
+	UScriptStruct* StaticStruct<Name>()                                                                                \
+	{                                                                                                                  \
+		return Z_Construct_UScriptStruct_##Name();                                                                     \
+	}
+
+#define HOST_DEFINE_CLASS(Name)                                                                                        \
+	UClass* Z_Construct_UClass_##Name()                                                                                \
+	{                                                                                                                  \
+		static UClass* const Type = Z_Construct_UClass_##Name##_Statics::Make();                                       \
+		return Type;                                                                                                   \
+	}                                                                                                                  \
+	UClass* Z_Construct_UClass_##Name##_NoRegister()                                                                   \
+	{                                                                                                                  \
+		return Z_Construct_UClass_##Name();                                                                            \
+	}                                                                                                                  \
+	UClass* Name::GetPrivateStaticClass()                                                                              \
+	{                                                                                                                  \
+		return Z_Construct_UClass_##Name();                                                                            \
+	}                                                                                                                  \
+	template <>                                                                                                        \
+	UClass* StaticClass<Name>()                                                                                        \
+	{                                                                                                                  \
+		return Z_Construct_UClass_##Name();                                                                            \
+	}
