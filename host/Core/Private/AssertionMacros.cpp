@@ -2,7 +2,6 @@
 #include "Misc/AssertionMacros.h"
 
 #include "Containers/StringConv.h"
-#include "FormatString.h"
 #include "Logging/LogMacros.h"
 #include "Misc/OutputDeviceRedirector.h"
 #include "Misc/ScopeLock.h"
@@ -10,6 +9,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <set>
+#include <string>
 #include <windows.h>
 
 DEFINE_LOG_CATEGORY_STATIC(LogWindows, Log, All);
@@ -55,29 +55,23 @@ bool IsFirstFailure(const ANSICHAR* File, int32 Line)
 }
 } // namespace
 
-void FDebug::CheckFailed(const ANSICHAR* Expression, const ANSICHAR* File, int32 Line, const TCHAR* Format, ...)
+void FDebug::CheckFailed(const ANSICHAR* Expression, const ANSICHAR* File, int32 Line, const FString& Message)
 {
-	va_list Arguments;
-	va_start(Arguments, Format);
-	EndProcess(FString::Printf(TEXT("Assertion failed: %s %s"), UTF8_TO_TCHAR(Expression), *Place(File, Line)),
-		FormatString(Format, Arguments));
+	EndProcess(
+		FString::Printf(TEXT("Assertion failed: %s %s"), UTF8_TO_TCHAR(Expression), *Place(File, Line)), Message);
 }
 
-void FDebug::Fatal(const ANSICHAR* File, int32 Line, const TCHAR* Message)
+void FDebug::Fatal(const ANSICHAR* File, int32 Line, const FString& Message)
 {
 	EndProcess(TEXT("Fatal error: ") + Place(File, Line), Message);
 }
 
-bool FDebug::EnsureFailed(const ANSICHAR* Expression, const ANSICHAR* File, int32 Line, const TCHAR* Format, ...)
+bool FDebug::EnsureFailed(const ANSICHAR* Expression, const ANSICHAR* File, int32 Line, const FString& Message)
 {
 	if (!IsFirstFailure(File, Line))
 	{
 		return false;
 	}
-	va_list Arguments;
-	va_start(Arguments, Format);
-	const FString Message = FormatString(Format, Arguments);
-	va_end(Arguments);
 	UE_LOG(LogOutputDevice, Error, TEXT("=== Handled ensure: ==="));
 	UE_LOG(LogOutputDevice, Error, TEXT(""));
 	UE_LOG(

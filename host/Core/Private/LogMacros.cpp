@@ -1,7 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Logging/LogMacros.h"
 
-#include "FormatString.h"
 #include "Misc/AssertionMacros.h"
 #include "Misc/OutputDeviceRedirector.h"
 
@@ -12,16 +11,12 @@ const TCHAR* ToString(ELogVerbosity::Type Verbosity)
 	return Words[Verbosity];
 }
 
-void FMsg::Logf(
-	const ANSICHAR* File, int32 Line, const FName& Category, ELogVerbosity::Type Verbosity, const TCHAR* Format, ...)
+void FMsg::Log(
+	const ANSICHAR* File, int32 Line, const FName& Category, ELogVerbosity::Type Verbosity, const FString& Message)
 {
-	va_list Arguments;
-	va_start(Arguments, Format);
-	const FString Message = FormatString(Format, Arguments);
-	va_end(Arguments);
 	if (Verbosity == ELogVerbosity::Fatal)
 	{
-		FDebug::Fatal(File, Line, *Message);
+		FDebug::Fatal(File, Line, Message);
 	}
 	GLog->Serialize(*Message, Verbosity, Category);
 }

@@ -3,9 +3,9 @@
 
 #include "Containers/Map.h"
 #include "Containers/StringConv.h"
-#include "Misc/Char.h"
 #include "Misc/ScopeLock.h"
 
+#include <cwchar>
 #include <deque>
 #include <unordered_map>
 
@@ -63,27 +63,19 @@ private:
 uint32 SplitNumber(FStringView& Name)
 {
 	constexpr int64 Limit = 2147483647;
-	int32 Start = Name.Len();
-	while (Start > 0 && FChar::IsDigit(Name.GetData()[Start - 1]))
-	{
-		--Start;
-	}
-	const FStringView Digits(Name.GetData() + Start, Name.Len() - Start);
-	const bool bLeadingZero = Digits.Len() > 1 && *Digits.begin() == TEXT('0');
-	if (Digits.IsEmpty() || Digits.Len() > 10 || bLeadingZero || Start < 2 || Name.GetData()[Start - 1] != TEXT('_'))
+	const std::wstring_view View(Name.begin(), Name.end());
+	const size_t Underscore = View.rfind(TEXT('_'));
+	if (Underscore == View.npos || Underscore == 0)
 	{
 		return 0;
 	}
-	int64 Value = 0;
-	for (const TCHAR Digit : Digits)
-	{
-		Value = Value * 10 + (Digit - TEXT('0'));
-	}
-	if (Value >= Limit)
+	const std::wstring Digits(View.substr(Underscore + 1));
+	const int64 Value = std::wcstoll(Digits.c_str(), nullptr, 10);
+	if (Value < 0 || Value >= Limit || Digits != std::to_wstring(Value))
 	{
 		return 0;
 	}
-	Name = FStringView(Name.GetData(), Start - 1);
+	Name = FStringView(Name.GetData(), static_cast<int32>(Underscore));
 	return static_cast<uint32>(Value) + 1;
 }
 } // namespace

@@ -1,10 +1,10 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Containers/UnrealString.h"
 
-#include "FormatString.h"
 #include "Misc/Char.h"
 
 #include <algorithm>
+#include <cstdarg>
 #include <cstdio>
 
 namespace
@@ -25,25 +25,17 @@ bool IsSlash(TCHAR Char)
 }
 } // namespace
 
-FString FormatString(const TCHAR* Format, va_list Arguments)
-{
-	// The Microsoft functions: in MinGW's own, %s takes narrow text.
-	va_list Measured;
-	va_copy(Measured, Arguments);
-	const int32 Size = std::max(_vscwprintf(Format, Measured), 0);
-	va_end(Measured);
-	std::wstring Text(static_cast<size_t>(Size), TEXT('\0'));
-	_vsnwprintf(Text.data(), Text.size() + 1, Format, Arguments);
-	return FString::ConstructFromPtrSize(Text.data(), Size);
-}
-
 FString FString::PrintfImpl(const TCHAR* Format, ...)
 {
+	// The Microsoft functions: in MinGW's own, %s takes narrow text.
 	va_list Arguments;
 	va_start(Arguments, Format);
-	FString Text = FormatString(Format, Arguments);
+	std::wstring Text(static_cast<size_t>(std::max(_vscwprintf(Format, Arguments), 0)), TEXT('\0'));
 	va_end(Arguments);
-	return Text;
+	va_start(Arguments, Format);
+	_vsnwprintf(Text.data(), Text.size() + 1, Format, Arguments);
+	va_end(Arguments);
+	return FString(Text.c_str());
 }
 
 FString& FString::operator/=(FStringView Other)

@@ -45,7 +45,7 @@ class TRangedForIterator
 {
 public:
 	TRangedForIterator(const ArrayType& InArray, ElementType* InElement)
-		: Array(&InArray), Element(InElement), InitialNum(InArray.Num())
+		: Array(&InArray), Element(InElement), StartNum(InArray.Num())
 	{
 	}
 
@@ -60,7 +60,7 @@ public:
 	friend bool operator!=(const TRangedForIterator& A, const TRangedForIterator& B)
 	{
 		const int32 CurrentNum = A.Array->Num();
-		const int32 InitialNum = A.InitialNum;
+		const int32 InitialNum = A.StartNum;
 		ensureMsgf(CurrentNum == InitialNum, TEXT("Array has changed during ranged-for iteration!"));
 		return A.Element != B.Element;
 	}
@@ -68,7 +68,7 @@ public:
 private:
 	const ArrayType* Array;
 	ElementType* Element;
-	int32 InitialNum;
+	int32 StartNum;
 };
 
 template <typename ElementType>

@@ -4,30 +4,22 @@
 
 #include "Logging/LogCategory.h"
 
-#include <type_traits>
-
 /** What the macros call. */
 struct FMsg
 {
 	/** Sends a line to GLog; a fatal one ends the process like a failed check. */
-	CORE_API static void Logf(const ANSICHAR* File, int32 Line, const FName& Category, ELogVerbosity::Type Verbosity,
-		const TCHAR* Format, ...);
+	CORE_API static void Log(
+		const ANSICHAR* File, int32 Line, const FName& Category, ELogVerbosity::Type Verbosity, const FString& Message);
 };
 
-/** Whether the type is that of a wide string literal. */
-template <typename T>
-inline constexpr bool TIsFormatLiteral = false;
-template <size_t Size>
-inline constexpr bool TIsFormatLiteral<const TCHAR (&)[Size]> = true;
-
-#define UE_LOG(CategoryName, Verbosity, Format, ...)                                                                   \
+/** The format must be a TEXT literal; its arguments follow. */
+#define UE_LOG(CategoryName, Verbosity, ...)                                                                           \
 	do                                                                                                                 \
 	{                                                                                                                  \
-		static_assert(TIsFormatLiteral<decltype((Format))>, "The format must be a TEXT literal.");                     \
 		if (!CategoryName.IsSuppressed(ELogVerbosity::Verbosity))                                                      \
 		{                                                                                                              \
-			FMsg::Logf(__FILE__, __LINE__, CategoryName.GetCategoryName(), ELogVerbosity::Verbosity,                   \
-				Format __VA_OPT__(, ) __VA_ARGS__);                                                                    \
+			FMsg::Log(__FILE__, __LINE__, CategoryName.GetCategoryName(), ELogVerbosity::Verbosity,                    \
+				FString::Printf(__VA_ARGS__));                                                                         \
 		}                                                                                                              \
 	} while (false)
 

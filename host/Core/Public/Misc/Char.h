@@ -10,6 +10,4 @@ struct FChar
 	{
 		return Char >= TEXT('A') && Char <= TEXT('Z') ? static_cast<TCHAR>(Char - TEXT('A') + TEXT('a')) : Char;
 	}
-
-	static constexpr bool IsDigit(TCHAR Char) { return Char >= TEXT('0') && Char <= TEXT('9'); }
 };
