@@ -19,6 +19,7 @@ set(TONALITH_STAGE ${CMAKE_BINARY_DIR}/stage)
 
 find_program(PYTHON python3 REQUIRED)
 set(HEADER_TOOL ${CMAKE_SOURCE_DIR}/host/HeaderTool/header_tool.py)
+set(HEADER_TOOL_FILES ${HEADER_TOOL} ${CMAKE_SOURCE_DIR}/host/HeaderTool/header_reader.py)
 
 # reflect(<module> SOURCE <folder> [KNOWN <modules>...])
 # Runs the header tool over the reflected headers below the folder; KNOWN are the modules whose types they may name.
@@ -41,7 +42,7 @@ function(reflect module)
 	list(TRANSFORM known PREPEND "--known=" OUTPUT_VARIABLE known_arguments)
 	add_custom_command(OUTPUT ${outputs}
 		COMMAND ${PYTHON} ${HEADER_TOOL} --module ${module} --source ${ARG_SOURCE} --out ${out} ${known_arguments} ${headers}
-		DEPENDS ${HEADER_TOOL} ${headers} ${known} VERBATIM)
+		DEPENDS ${HEADER_TOOL_FILES} ${headers} ${known} VERBATIM)
 	target_sources(${module} PRIVATE ${outputs})
 	target_include_directories(${module} PUBLIC ${out})
 endfunction()

@@ -25,8 +25,8 @@ protected:
 TEST_F(Session, PluginSeesStartAndNormalExitInOrder)
 {
 	Driver.Start(Options);
-	EXPECT_THAT(TakeProbe(), ElementsAre("start-up: editor no, objects yes, self loaded yes", "world of type 2",
-								 "engine loop complete: editor yes, panes 0"));
+	EXPECT_THAT(TakeProbe(), ElementsAre("start-up: editor no, objects yes, self loaded yes, setting entries 0",
+								 "world of type 2", "engine loop complete: editor yes, panes 0"));
 	TakeTrace();
 	Driver.Quit();
 	EXPECT_THAT(TakeProbe(), ElementsAre("pre-exit: editor yes, objects yes, AssetTools no", "pre-unload",
@@ -48,7 +48,7 @@ TEST_F(Session, UnloadedModuleCanBeLoadedAgain)
 	EXPECT_THAT(TakeProbe(), ElementsAre("shut-down: editor yes, objects yes, AssetTools yes"));
 	EXPECT_EQ(FModuleManager::Get().GetModule("Probe"), nullptr);
 	EXPECT_NE(FModuleManager::Get().LoadModule("Probe"), nullptr);
-	EXPECT_THAT(TakeProbe(), ElementsAre("start-up: editor yes, objects yes, self loaded yes"));
+	EXPECT_THAT(TakeProbe(), ElementsAre("start-up: editor yes, objects yes, self loaded yes, setting entries 0"));
 }
 
 TEST_F(Session, PaneEventsComeInTheEnginesOrder)

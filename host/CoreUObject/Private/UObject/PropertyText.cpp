@@ -127,23 +127,6 @@ bool Read(const FString& Token, float& OutValue)
 	return true;
 }
 
-void Append(FString& Out, int32 Value)
-{
-	Out += FString::Printf(TEXT("%d"), Value);
-}
-
-bool Read(const FString& Token, int32& OutValue)
-{
-	wchar_t* End = nullptr;
-	const long Value = std::wcstol(*Token, &End, 10);
-	if (Token.IsEmpty() || *End)
-	{
-		return false;
-	}
-	OutValue = static_cast<int32>(Value);
-	return true;
-}
-
 void Append(FString& Out, const FName& Value)
 {
 	AppendQuoted(Out, Value.IsNone() ? FString() : Value.ToString());
@@ -155,17 +138,6 @@ bool Read(const FString& Token, FName& OutValue)
 	return true;
 }
 
-void Append(FString& Out, const FString& Value)
-{
-	AppendQuoted(Out, Value);
-}
-
-bool Read(const FString& Token, FString& OutValue)
-{
-	OutValue = Token;
-	return true;
-}
-
 template <class T>
 constexpr const TCHAR* TypeName = nullptr;
 template <>
@@ -173,11 +145,7 @@ constexpr const TCHAR* TypeName<bool> = TEXT("bool");
 template <>
 constexpr const TCHAR* TypeName<float> = TEXT("float");
 template <>
-constexpr const TCHAR* TypeName<int32> = TEXT("int32");
-template <>
 constexpr const TCHAR* TypeName<FName> = TEXT("FName");
-template <>
-constexpr const TCHAR* TypeName<FString> = TEXT("FString");
 } // namespace
 
 template <class T>
@@ -201,9 +169,7 @@ bool TPlainProperty<T>::ReadText(const TCHAR*& Cursor, void* Value) const
 
 template class TPlainProperty<bool>;
 template class TPlainProperty<float>;
-template class TPlainProperty<int32>;
 template class TPlainProperty<FName>;
-template class TPlainProperty<FString>;
 
 FString FObjectProperty::GetCPPType() const
 {

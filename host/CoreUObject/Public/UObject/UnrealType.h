@@ -7,7 +7,8 @@
 class COREUOBJECT_API FProperty
 {
 public:
-	FProperty(const TCHAR* InName, size_t InOffset, uint64 InFlags) : Name(InName), Offset(InOffset), PropertyFlags(InFlags)
+	FProperty(const TCHAR* InName, size_t InOffset, uint64 InFlags)
+		: Name(InName), Offset(InOffset), PropertyFlags(InFlags)
 	{
 	}
 
@@ -63,9 +64,7 @@ public:
 
 using FBoolProperty = TPlainProperty<bool>;
 using FFloatProperty = TPlainProperty<float>;
-using FIntProperty = TPlainProperty<int32>;
 using FNameProperty = TPlainProperty<FName>;
-using FStrProperty = TPlainProperty<FString>;
 
 class COREUOBJECT_API FObjectProperty : public FProperty
 {
@@ -151,8 +150,8 @@ private:
 template <class T>
 const FArrayOperations& ArrayOperations()
 {
-	static constexpr FArrayOperations Operations{
-		[](const void* Array) { return static_cast<const TArray<T>*>(Array)->Num(); },
+	static constexpr FArrayOperations Operations{[](const void* Array)
+		{ return static_cast<const TArray<T>*>(Array)->Num(); },
 		[](const void* Array, int32 Index) -> const void* { return &(*static_cast<const TArray<T>*>(Array))[Index]; },
 		[](void* Array) { static_cast<TArray<T>*>(Array)->Empty(); },
 		[](void* Array) -> void*

@@ -7,6 +7,7 @@
 #include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
 #include "SLevelViewport.h"
+#include "UObject/UObjectGlobals.h"
 
 #include <stdexcept>
 
@@ -24,8 +25,9 @@ class FProbeModule final : public IProbeModule
 public:
 	void StartupModule() override
 	{
-		UE_LOG(LogProbe, Display, TEXT("start-up: editor %s, objects %s, self loaded %s"), YesNo(GEditor != nullptr),
-			YesNo(UObjectInitialized()), YesNo(FModuleManager::Get().IsModuleLoaded("Probe")));
+		UE_LOG(LogProbe, Display, TEXT("start-up: editor %s, objects %s, self loaded %s, setting entries %d"),
+			YesNo(GEditor != nullptr), YesNo(UObjectInitialized()),
+			YesNo(FModuleManager::Get().IsModuleLoaded("Probe")), GetDefault<UProbeSettings>()->Entries.Num());
 		FModuleManager::Get().LoadModuleChecked("AssetTools");
 		FWorldDelegates::OnPreWorldInitialization.AddRaw(this, &FProbeModule::OnWorld);
 		FCoreDelegates::OnFEngineLoopInitComplete.AddRaw(this, &FProbeModule::OnEngineLoop);
@@ -48,6 +50,8 @@ public:
 		UE_LOG(LogProbe, Display, TEXT("shut-down: editor %s, objects %s, AssetTools %s"), YesNo(GEditor != nullptr),
 			YesNo(UObjectInitialized()), YesNo(FModuleManager::Get().IsModuleLoaded("AssetTools")));
 	}
+
+	UProbeSettings& Settings() override { return *GetMutableDefault<UProbeSettings>(); }
 
 	void ThrowAtNextEvent() override { bThrow = true; }
 

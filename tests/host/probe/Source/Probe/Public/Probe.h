@@ -4,10 +4,14 @@
 
 #include "CoreMinimal.h"
 #include "Modules/ModuleInterface.h"
+#include "ProbeSettings.h"
 
 class IProbeModule : public IModuleInterface
 {
 public:
-	/** What the next worlds and sessions do; the first own virtual function. */
+	/** The next world makes the module throw. */
 	virtual void ThrowAtNextEvent() = 0;
+
+	/** The default object. */
+	virtual UProbeSettings& Settings() = 0;
 };

@@ -1,0 +1,244 @@
+# Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+"""Reads a reflected header: its types, their properties, and the comments above them."""
+import re
+from dataclasses import dataclass, field
+from pathlib import Path
+
+TOKEN = re.compile(r"""
+      (?P<comment>//[^\n]*|/\*.*?\*/)
+    | (?P<directive>^[ \t]*\#(?:\\\n|[^\n])*)
+    | (?P<text>"(?:\\.|[^"\\\n])*"|'(?:\\.|[^'\\\n])*')
+    | (?P<word>[A-Za-z_]\w*)
+    | (?P<number>\d[\w.]*)
+    | (?P<mark>::|->|\S)
+""", re.VERBOSE | re.MULTILINE | re.DOTALL)
+
+CLASS_SPECIFIERS = {"config", "minimalapi", "abstract", "hidecategories", "blueprinttype"}
+STRUCT_SPECIFIERS = {"blueprinttype"}
+PROPERTY_SPECIFIERS = {"config", "editanywhere", "category", "meta", "transient"}
+UNSUPPORTED = {"GENERATED_UCLASS_BODY", "GENERATED_USTRUCT_BODY", "UFUNCTION", "UENUM", "UINTERFACE", "UDELEGATE", "RIGVM_METHOD"}
+PLAIN_TYPES = {"bool": "FBoolProperty", "float": "FFloatProperty", "FName": "FNameProperty"}
+
+
+class HeaderError(Exception):
+    """What is wrong with a header, and where."""
+
+
+@dataclass
+class Token:
+    kind: str
+    text: str
+    line: int
+
+
+@dataclass
+class PropertyType:
+    """The property class that stands for a C++ type, and what it refers to: a type's name or an inner PropertyType."""
+    kind: str
+    cpp: str
+    refers: object = None
+
+
+@dataclass
+class Property:
+    name: str
+    type: PropertyType
+    specifiers: dict
+    access: str
+    comment: str
+    line: int
+
+
+@dataclass
+class Type:
+    kind: str
+    name: str
+    api: str
+    base: str
+    specifiers: dict
+    comment: str
+    macro_line: int
+    body_line: int = 0
+    body_access: str = "private"
+    declares: set = field(default_factory=set)
+    properties: list = field(default_factory=list)
+
+
+def tokenize(text):
+    return [Token(m.lastgroup, m.group(), text.count("\n", 0, m.start()) + 1) for m in TOKEN.finditer(text)]
+
+
+class Reader:
+    """Walks the tokens of one header."""
+
+    def __init__(self, path, text):
+        self.path = path
+        self.tokens = tokenize(text)
+        self.at = 0
+
+    def error(self, line, reason):
+        return HeaderError(f"{self.path}:{line}: {reason}")
+
+    def peek(self):
+        while self.at < len(self.tokens) and self.tokens[self.at].kind in ("comment", "directive"):
+            self.at += 1
+        return self.tokens[self.at] if self.at < len(self.tokens) else None
+
+    def next(self):
+        token = self.peek()
+        if token is None:
+            raise self.error(self.tokens[-1].line if self.tokens else 1, "the file ends too early")
+        self.at += 1
+        return token
+
+    def expect(self, text):
+        token = self.next()
+        if token.text != text:
+            raise self.error(token.line, f'"{text}" expected, "{token.text}" found')
+        return token
+
+    def comment_before(self):
+        """The comment lines that stand directly above the next token."""
+        lines, index = [], self.at
+        self.peek()
+        index = self.at - 1
+        line = self.tokens[self.at].line
+        while index >= 0 and self.tokens[index].kind == "comment":
+            comment = self.tokens[index]
+            last = comment.line + comment.text.count("\n")
+            if last != line - 1 or (index and self.tokens[index - 1].line == comment.line):
+                break
+            lines.insert(0, comment.text)
+            line = comment.line
+            index -= 1
+        return "\n".join(lines)
+
+    def specifiers(self, known):
+        """Reads "(Name, Name=Value, meta=(Name=Value))" into a dictionary with lower-case names."""
+        result = {}
+        self.expect("(")
+        while self.peek().text != ")":
+            name = self.next()
+            key = name.text.lower()
+            if known is not None and key not in known:
+                raise self.error(name.line, f'unknown specifier "{name.text}"')
+            value = ""
+            if self.peek().text == "=":
+                self.next()
+                value = self.specifiers(None) if self.peek().text == "(" else self.value()
+            result[key] = value
+            if self.peek().text == ",":
+                self.next()
+        self.expect(")")
+        return result
+
+    def value(self):
+        parts = []
+        while self.peek().text not in (",", ")"):
+            parts.append(self.next().text)
+        return "".join(parts).strip('"')
+
+    def skip_braces(self):
+        """Reads on behind the brace that closes the one that comes next."""
+        self.expect("{")
+        depth = 1
+        while depth:
+            token = self.next()
+            depth += (token.text == "{") - (token.text == "}")
+
+    def header(self):
+        """Reads the whole file: its reflected types."""
+        types = []
+        includes = [t for t in self.tokens if t.kind == "directive" and re.match(r"\s*#\s*include", t.text)]
+        generated = f'"{Path(self.path).stem}.generated.h"'
+        if not includes or generated not in includes[-1].text:
+            raise self.error(includes[-1].line if includes else 1, f"the last include must be {generated}")
+        while self.peek() is not None:
+            comment, token = self.comment_before(), self.next()
+            if token.text in UNSUPPORTED:
+                raise self.error(token.line, f"{token.text} is not supported")
+            if token.text in ("UPROPERTY", "GENERATED_BODY"):
+                raise self.error(token.line, f"{token.text} outside of a reflected type")
+            if token.text in ("UCLASS", "USTRUCT"):
+                types.append(self.type(token, comment))
+        return types
+
+    def type(self, macro, comment):
+        is_class = macro.text == "UCLASS"
+        specifiers = self.specifiers(CLASS_SPECIFIERS if is_class else STRUCT_SPECIFIERS)
+        self.expect("class" if is_class else "struct")
+        name, api = self.next(), ""
+        if self.peek().kind == "word" and self.peek().text != "final":
+            api, name = name.text, self.next()
+        if self.peek().text == "final":
+            self.next()
+        prefix = "U" if is_class else "F"
+        if not re.match(prefix + "[A-Z]", name.text):
+            raise self.error(name.line, f'the name does not begin with "{prefix}": "{name.text}"')
+        result = Type("class" if is_class else "struct", name.text, api, "", specifiers, comment, macro.line)
+        if self.peek().text == ":":
+            self.next()
+            self.expect("public")
+            result.base = self.next().text
+            while self.peek().text != "{":
+                self.next()
+        if is_class and not result.base:
+            raise self.error(name.line, f'"{name.text}" has no base class')
+        self.expect("{")
+        self.body(result)
+        if not result.body_line:
+            raise self.error(macro.line, f'"{name.text}" has no GENERATED_BODY()')
+        if any("config" in p.specifiers for p in result.properties) and is_class and "config" not in specifiers:
+            raise self.error(macro.line, f'"{name.text}" has config properties but names no config file')
+        return result
+
+    def body(self, owner):
+        access = "private" if owner.kind == "class" else "public"
+        while self.peek().text != "}":
+            comment, token = self.comment_before(), self.next()
+            if token.text in ("public", "protected", "private") and self.peek().text == ":":
+                self.next()
+                access = token.text
+            elif token.text == "GENERATED_BODY":
+                owner.body_line, owner.body_access = token.line, access
+                self.expect("(")
+                self.expect(")")
+            elif token.text == "UPROPERTY":
+                owner.properties.append(self.property(owner, access, comment))
+            elif token.text in UNSUPPORTED:
+                raise self.error(token.line, f"{token.text} is not supported")
+            elif token.text == "{":
+                self.at -= 1
+                self.skip_braces()
+            elif token.text == "~":
+                owner.declares.add("destructor")
+            elif token.text == owner.name and self.peek().text == "(":
+                is_initializer = "FObjectInitializer" in "".join(t.text for t in self.tokens[self.at:self.at + 3])
+                owner.declares.add("initializer" if is_initializer else "default")
+        self.expect("}")
+
+    def property(self, owner, access, comment):
+        specifiers = self.specifiers(PROPERTY_SPECIFIERS)
+        words = []
+        while self.peek().text not in (";", "=", "{"):
+            words.append(self.next())
+        name = words.pop()
+        if name.kind != "word" or not words:
+            raise self.error(name.line, "a property is a type and a name")
+        while self.next().text != ";":
+            pass
+        spelled = "".join(w.text for w in words if w.text not in ("class", "struct"))
+        return Property(name.text, self.property_type(spelled, name.line), specifiers, access, comment, name.line)
+
+    def property_type(self, text, line):
+        array = re.fullmatch(r"TArray<(.+)>", text)
+        if array:
+            return PropertyType("FArrayProperty", text, self.property_type(array.group(1), line))
+        pointer = re.fullmatch(r"TObjectPtr<(U\w+)>|(U\w+)\*", text)
+        if pointer:
+            return PropertyType("FObjectProperty", text, pointer.group(1) or pointer.group(2))
+        if text in PLAIN_TYPES:
+            return PropertyType(PLAIN_TYPES[text], text)
+        if re.fullmatch(r"F[A-Z]\w*", text):
+            return PropertyType("FStructProperty", text, text)
+        raise self.error(line, f'unknown property type "{text}"')
