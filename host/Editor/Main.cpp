@@ -81,8 +81,7 @@ int RunSession(size_t Session)
 	Startup.cb = sizeof Startup;
 	PROCESS_INFORMATION Process{};
 	std::fflush(stdout);
-	if (!CreateProcessW(
-			nullptr, CommandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &Startup, &Process))
+	if (!CreateProcessW(nullptr, CommandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &Startup, &Process))
 	{
 		throw FStoryError("the session's process does not start");
 	}

@@ -35,15 +35,12 @@ const std::string Default = "bDisplay=False,Weight=1.000000,Look=None";
 class ViewportSettings : public FEditorTest
 {
 protected:
-	ViewportSettings()
-	{
-		Options.Assets.Add({TEXT("/Script/Tonalith.TonalithObject"), TEXT("/Game/Looks/Warm.Warm")});
-	}
+	ViewportSettings() { Options.Assets.Add({TEXT("/Script/Tonalith.TonalithObject"), TEXT("/Game/Looks/Warm.Warm")}); }
 
 	std::filesystem::path File() const
 	{
 		return std::filesystem::path(*Options.ProjectFolder) /
-			"Saved/Config/WindowsEditor/EditorPerProjectUserSettings.ini";
+			   "Saved/Config/WindowsEditor/EditorPerProjectUserSettings.ini";
 	}
 
 	void WriteFile(const std::string& Text) const
@@ -160,10 +157,12 @@ TEST_F(ViewportSettings, ClientsThatAreNoPanesAreLeftAlone)
 
 TEST_F(ViewportSettings, BadFilesLoseNothingThatCanBeRead)
 {
-	WriteFile(";METADATA=(Diff=true, UseCommands=true)\r\n[/Script/Other.Settings]\r\nKept=1\r\n+Kept=2\r\n\r\n" +
+	WriteFile(
+		";METADATA=(Diff=true, UseCommands=true)\r\n[/Script/Other.Settings]\r\nKept=1\r\n+Kept=2\r\n\r\n" +
 		std::string(Section) +
 		Pair(KeyA, std::string("bDisplay=True,Strange=(A=1,B=\")\"),Weight=0.500000,Look=") + Warm) +
-		Pair(KeyA, "bDisplay=False") + Pair(KeyB, "Weight=nonsense,Look=\"/Script/Tonalith.TonalithObject'/Game/Gone.Gone'\"") +
+		Pair(KeyA, "bDisplay=False") +
+		Pair(KeyB, "Weight=nonsense,Look=\"/Script/Tonalith.TonalithObject'/Game/Gone.Gone'\"") +
 		"ViewportsSettings=nonsense\r\n+ViewportsSettings=(ViewportIdentifier=\"Ignored\")\r\nOther=kept\r\n\r\n");
 	Driver.Start(Options);
 	Driver.OpenPane(A);
@@ -186,9 +185,10 @@ TEST_F(ViewportSettings, BadFilesLoseNothingThatCanBeRead)
 TEST_F(ViewportSettings, TypesAreAsTheEngineShowsThem)
 {
 	Driver.Start(Options);
-	const auto Find = [](UClass* Class, const TCHAR* Path) { return static_cast<UStruct*>(StaticFindObject(Class, Path)); };
-	const UClass* Class = static_cast<UClass*>(
-		Find(UClass::StaticClass(), TEXT("/Script/TonalithEditor.TonalithLevelViewportSettings")));
+	const auto Find = [](UClass* Class, const TCHAR* Path)
+	{ return static_cast<UStruct*>(StaticFindObject(Class, Path)); };
+	const UClass* Class =
+		static_cast<UClass*>(Find(UClass::StaticClass(), TEXT("/Script/TonalithEditor.TonalithLevelViewportSettings")));
 	ASSERT_NE(Class, nullptr);
 	EXPECT_EQ(Class->GetSuperClass(), UObject::StaticClass());
 	EXPECT_TRUE(Class->HasAnyClassFlags(CLASS_Config));

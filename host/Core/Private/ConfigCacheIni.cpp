@@ -15,16 +15,15 @@ FString Trim(const std::wstring& Text)
 {
 	const size_t Begin = Text.find_first_not_of(L" \t\r");
 	return Begin == std::wstring::npos
-		? FString()
-		: FString(Text.substr(Begin, Text.find_last_not_of(L" \t\r") + 1 - Begin).c_str());
+			   ? FString()
+			   : FString(Text.substr(Begin, Text.find_last_not_of(L" \t\r") + 1 - Begin).c_str());
 }
 
 /** A value that is quoted as a whole loses its quotes. */
 FString Unquoted(const FString& Value)
 {
-	return Value.StartsWith(TEXT("\"")) && Value.EndsWith(TEXT("\"")) && Value.Len() > 1
-		? Value.Mid(1, Value.Len() - 2)
-		: Value;
+	return Value.StartsWith(TEXT("\"")) && Value.EndsWith(TEXT("\"")) && Value.Len() > 1 ? Value.Mid(1, Value.Len() - 2)
+																						 : Value;
 }
 
 bool IsSection(const FString& Line)

@@ -40,7 +40,8 @@ void HostAssets::LoadAll()
 UObject* StaticLoadObject(UClass* Class, const TCHAR* Path)
 {
 	UObject* Found = StaticFindObject(UObject::StaticClass(), Path);
-	const FHostAsset* Asset = Known().FindByPredicate([Path](const FHostAsset& Candidate) { return Candidate.Path == Path; });
+	const FHostAsset* Asset =
+		Known().FindByPredicate([Path](const FHostAsset& Candidate) { return Candidate.Path == Path; });
 	if (!Found && Asset)
 	{
 		Found = Load(*Asset);

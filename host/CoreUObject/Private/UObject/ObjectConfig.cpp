@@ -11,8 +11,8 @@ namespace
 {
 FString ConfigFile(const UClass& Class)
 {
-	return FPaths::Combine(FPaths::ProjectSavedDir(), TEXT("Config/WindowsEditor"),
-		*(Class.ClassConfigName.ToString() + TEXT(".ini")));
+	return FPaths::Combine(
+		FPaths::ProjectSavedDir(), TEXT("Config/WindowsEditor"), *(Class.ClassConfigName.ToString() + TEXT(".ini")));
 }
 
 /** The values of a property as lines: one an element for an array. */

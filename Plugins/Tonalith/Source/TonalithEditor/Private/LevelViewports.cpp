@@ -86,8 +86,8 @@ void FTonalithEditorModule::TrackViewport(FViewport* Viewport)
 		return;
 	}
 	const TArray<FLevelEditorViewportClient*> Clients = GEditor->GetLevelViewportClients();
-	FLevelEditorViewportClient* const* AssociatedClient = Clients.FindByPredicate(
-		[ViewportClient](const FViewportClient* Client) { return Client == ViewportClient; });
+	FLevelEditorViewportClient* const* AssociatedClient =
+		Clients.FindByPredicate([ViewportClient](const FViewportClient* Client) { return Client == ViewportClient; });
 	check(AssociatedClient && *AssociatedClient);
 	const TSharedPtr<SEditorViewport> Widget = (*AssociatedClient)->GetEditorViewportWidget();
 	if (Widget.IsValid())
