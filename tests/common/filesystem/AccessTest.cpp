@@ -1,0 +1,117 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "ImportOverride.h"
+#include "TemporaryFolder.h"
+#include <kiln/Access.h>
+#include <kiln/Unicode.h>
+
+namespace
+{
+TEST(Attributes, AreSetOnPathsOfAnyLength)
+{
+	const TemporaryFolder folder;
+	const std::string deep = std::string(120, 'a') + "\\" + std::string(120, 'b') + "\\";
+	ASSERT_TRUE(Kiln::createFolders(folder / deep));
+	const std::string file = folder.file(deep + std::string(90, 'c'));
+	for (const std::string& path :
+		{folder.file("\xE2\x82\xAC"), file, Kiln::parentOf(file) + "/./x/../" + Kiln::stemOf(file)})
+	{
+		const std::wstring wide = Kiln::wideAbsolutePath(path);
+		EXPECT_TRUE(Kiln::setFileAttributesLong(path, FILE_ATTRIBUTE_READONLY)) << path;
+		EXPECT_TRUE(GetFileAttributesW(wide.c_str()) & FILE_ATTRIBUTE_READONLY);
+		EXPECT_TRUE(Kiln::setFileAttributesLong(path, FILE_ATTRIBUTE_NORMAL));
+		EXPECT_FALSE(GetFileAttributesW(wide.c_str()) & FILE_ATTRIBUTE_READONLY);
+	}
+	EXPECT_FALSE(Kiln::setFileAttributesLong(folder / "missing", FILE_ATTRIBUTE_NORMAL));
+}
+
+TEST(Attributes, GoToTheLongFormOfThePath)
+{
+	const std::pair<std::string, std::wstring> rows[] = {
+		{"C:\\a\\b", L"\\\\?\\C:\\a\\b"},
+		{"c:/a/./x/../b", L"\\\\?\\c:\\a\\b"},
+		{"\\\\?\\C:\\a", L"\\\\?\\C:\\a"},
+		{"\\\\server/share\\a", L"\\\\?\\UNC\\server\\share\\a"},
+		{"C:\\" + std::string(32'000, 'a'), L"\\\\?\\C:\\" + std::wstring(32'000, L'a')},
+		{"", L""},
+	};
+	for (const auto& [path, expected] : rows)
+	{
+		std::wstring seen = L"not called";
+		const ImportOverride set("SetFileAttributesW", &SetFileAttributesW,
+			[&](const wchar_t* name, DWORD attributes) -> BOOL
+			{
+				seen = name;
+				EXPECT_EQ(attributes, 0x21u);
+				return TRUE;
+			});
+		EXPECT_TRUE(Kiln::setFileAttributesLong(path, 0x21));
+		EXPECT_EQ(seen, expected);
+	}
+}
+
+TEST(Access, FollowsTheFilesRights)
+{
+	const TemporaryFolder folder;
+	const std::string path = folder.file("\xC3\xBC");
+	EXPECT_TRUE(Kiln::hasAccess(path, GENERIC_READ));
+	EXPECT_TRUE(Kiln::hasAccess(path, GENERIC_READ | GENERIC_WRITE));
+	EXPECT_TRUE(Kiln::hasAccess(folder.path, FILE_LIST_DIRECTORY));
+	Kiln::setFileAttributesLong(path, FILE_ATTRIBUTE_READONLY);
+	EXPECT_TRUE(Kiln::hasAccess(path, GENERIC_READ));
+	EXPECT_FALSE(Kiln::hasAccess(path, GENERIC_WRITE));
+	EXPECT_FALSE(Kiln::hasAccess(folder / "missing", GENERIC_READ));
+	Kiln::setFileAttributesLong(path, FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST(Access, ReadsDescriptorsThatGrowAndEndsWhenRefused)
+{
+	const TemporaryFolder folder;
+	const std::string path = folder.file("file");
+	const auto real = &GetFileSecurityW;
+	DWORD missing = 3;
+	const auto growing = [&](const wchar_t* name, SECURITY_INFORMATION parts, void* descriptor, DWORD size,
+							 DWORD* needed) -> BOOL
+	{
+		if (missing == 0)
+		{
+			return real(name, parts, descriptor, size, needed);
+		}
+		--missing;
+		*needed = size + 1;
+		SetLastError(ERROR_INSUFFICIENT_BUFFER);
+		return FALSE;
+	};
+	{
+		const ImportOverride security("GetFileSecurityW", &GetFileSecurityW, growing);
+		EXPECT_TRUE(Kiln::hasAccess(path, GENERIC_READ));
+		EXPECT_EQ(security.calls(), 4);
+	}
+	{
+		const ImportOverride noToken(
+			"OpenProcessToken", &OpenProcessToken, [](HANDLE, DWORD, HANDLE*) { return FALSE; });
+		EXPECT_FALSE(Kiln::hasAccess(path, GENERIC_READ));
+	}
+	{
+		const ImportOverride noCopy(
+			"DuplicateToken", &DuplicateToken, [](HANDLE, SECURITY_IMPERSONATION_LEVEL, HANDLE*) { return FALSE; });
+		EXPECT_FALSE(Kiln::hasAccess(path, GENERIC_READ));
+	}
+}
+
+TEST(UserName, ComesFromTheSystem)
+{
+	EXPECT_NE(Kiln::currentUserName(), "");
+	{
+		const ImportOverride name("GetUserNameW", &GetUserNameW,
+			[](wchar_t* out, DWORD* length) -> BOOL
+			{
+				EXPECT_GE(*length, 257u);
+				wcscpy(out, L"J\u00FCrgen \u20AC");
+				return TRUE;
+			});
+		EXPECT_EQ(Kiln::currentUserName(), "J\xC3\xBCrgen \xE2\x82\xAC");
+	}
+	const ImportOverride nobody("GetUserNameW", &GetUserNameW, [](wchar_t*, DWORD*) { return FALSE; });
+	EXPECT_EQ(Kiln::currentUserName(), "");
+}
+} // namespace

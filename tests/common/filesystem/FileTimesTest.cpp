@@ -1,0 +1,85 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// Run once more in zones of both hemispheres, so that in one of them today is summer.
+#include "ImportOverride.h"
+#include "TemporaryFolder.h"
+#include <cstdlib>
+#include <ctime>
+#include <kiln/FileInformation.h>
+#include <windows.h>
+
+namespace
+{
+constexpr std::int64_t january = 1'705'321'845; // 2024-01-15 12:30:45 UTC
+constexpr std::int64_t july = 1'721'046'645;    // 2024-07-15 12:30:45 UTC
+constexpr std::int64_t ticksPerSecond = 10'000'000;
+constexpr std::int64_t epoch = 11'644'473'600; // in seconds since 1601
+
+FILETIME fileTime(std::int64_t seconds)
+{
+	const auto ticks = static_cast<std::uint64_t>((seconds + epoch) * ticksPerSecond);
+	return {static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
+}
+
+class FileTimes : public testing::Test
+{
+protected:
+	/** TZ is for Wine, which makes it the system's zone; the C library must not take it for its own. */
+	void SetUp() override
+	{
+		if (const char* zone = std::getenv("TZ"); zone && *zone)
+		{
+			TIME_ZONE_INFORMATION information;
+			ASSERT_NE(GetTimeZoneInformation(&information), static_cast<DWORD>(TIME_ZONE_ID_UNKNOWN));
+			ASSERT_NE(information.Bias, 0);
+			_putenv("TZ=");
+			_tzset();
+		}
+	}
+
+	static void setTime(const std::string& path, std::int64_t seconds)
+	{
+		const HANDLE file = CreateFileW(Kiln::widePath(path).c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING,
+			FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+		const FILETIME time = fileTime(seconds);
+		EXPECT_TRUE(SetFileTime(file, nullptr, nullptr, &time));
+		CloseHandle(file);
+	}
+
+	const TemporaryFolder folder;
+};
+
+TEST_F(FileTimes, AreSecondsSinceTheEpochInBothSeasons)
+{
+	const std::string path = folder.file("\xC3\xBC");
+	for (const std::int64_t time : {january, july, std::int64_t{1}, std::int64_t{4'102'444'800}})
+	{
+		setTime(path, time);
+		EXPECT_EQ(Kiln::fileModificationTime(path), time);
+	}
+}
+
+TEST_F(FileTimes, CreationIsNotModification)
+{
+	const std::string path = folder.file("file");
+	const ImportOverride times("GetFileTime", &GetFileTime,
+		[](HANDLE, FILETIME* created, FILETIME*, FILETIME* modified) -> BOOL
+		{
+			*created = fileTime(january);
+			*modified = fileTime(july);
+			return TRUE;
+		});
+	EXPECT_EQ(Kiln::fileCreationTime(path), january);
+	EXPECT_EQ(Kiln::fileModificationTime(path), july);
+}
+
+TEST_F(FileTimes, FoldersHaveThemMissingFilesAndEarlierTimesAreZero)
+{
+	setTime(folder.path, july);
+	EXPECT_EQ(Kiln::fileModificationTime(folder.path), july);
+	const std::string path = folder.file("old");
+	setTime(path, -86'400);
+	EXPECT_EQ(Kiln::fileModificationTime(path), 0);
+	EXPECT_EQ(Kiln::fileModificationTime(folder / "missing"), 0);
+	EXPECT_EQ(Kiln::fileCreationTime(folder / "missing"), 0);
+}
+} // namespace

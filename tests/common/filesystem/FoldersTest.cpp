@@ -1,0 +1,85 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "ImportOverride.h"
+#include "TemporaryFolder.h"
+
+namespace
+{
+using Names = std::vector<std::string>;
+using Failure = std::pair<std::string, int>;
+
+/** The operation and the system's error of a listing that fails. */
+Failure listingError(const std::string& folder)
+{
+	try
+	{
+		Kiln::listFiles(folder);
+	}
+	catch (const boost::filesystem::filesystem_error& error)
+	{
+		EXPECT_EQ(error.path1().native(), Kiln::widePath(folder));
+		const std::string text = error.what();
+		return {text.substr(0, text.find(": ")), error.code().value()};
+	}
+	return {"no error", 0};
+}
+
+TEST(ListFiles, SortsByLowerCaseNamesAndLeavesFoldersOut)
+{
+	const TemporaryFolder folder;
+	EXPECT_EQ(Kiln::listFiles(folder.path), Names());
+	for (const char* name : {"b", "B2", "a_x", "A-x", "\xC3\xBC", "Z", "_", "\xC3\x84.json", "a"})
+	{
+		folder.file(name);
+	}
+	Kiln::createFolders(folder / "folder.json");
+	const Names sorted{"_", "a", "A-x", "a_x", "b", "B2", "Z", "\xC3\x84.json", "\xC3\xBC"};
+	EXPECT_EQ(Kiln::listFiles(folder.path), sorted);
+	EXPECT_EQ(Kiln::listFiles(folder.path + "/"), sorted);
+}
+
+TEST(ListFiles, OfAMissingFolderIsNoError)
+{
+	const TemporaryFolder folder;
+	EXPECT_EQ(Kiln::listFiles(folder / "missing"), std::nullopt);
+	EXPECT_EQ(Kiln::listFiles(folder / "missing/deeper"), std::nullopt);
+	EXPECT_EQ(Kiln::listFiles(""), std::nullopt);
+	EXPECT_EQ(Kiln::listFiles(std::string("C:\\\0", 4)), std::nullopt);
+}
+
+TEST(ListFiles, NamesTheStepThatFails)
+{
+	const TemporaryFolder folder;
+	EXPECT_EQ(listingError(folder.file("file")).first, "directory_iterator::directory_iterator");
+
+	const ImportOverride denied("CreateFileW", &CreateFileW,
+		[real = &CreateFileW](const wchar_t* name, DWORD access, DWORD share, SECURITY_ATTRIBUTES* security,
+			DWORD creation, DWORD flags, HANDLE pattern)
+		{
+			if (access & FILE_LIST_DIRECTORY)
+			{
+				SetLastError(ERROR_ACCESS_DENIED);
+				return INVALID_HANDLE_VALUE;
+			}
+			return real(name, access, share, security, creation, flags, pattern);
+		});
+	EXPECT_EQ(listingError(folder.path), Failure("directory_iterator::directory_iterator", ERROR_ACCESS_DENIED));
+}
+
+TEST(ListFiles, StatusOfALinkThatLeadsToItselfIsAnError)
+{
+	const std::string loop = KILN_TEST_LOOP;
+	EXPECT_EQ(listingError(loop + "/a"), Failure("exists", ERROR_CANT_RESOLVE_FILENAME));
+}
+
+TEST(CreateFolders, WithAllAboveThem)
+{
+	const TemporaryFolder folder;
+	EXPECT_TRUE(Kiln::createFolders(folder / "a/\xE2\x82\xAC/c/"));
+	EXPECT_TRUE(Kiln::createFolders(folder / "a/\xE2\x82\xAC/c"));
+	EXPECT_TRUE(boost::filesystem::is_directory(Kiln::widePath(folder / "a\\\xE2\x82\xAC\\c")));
+	folder.file("file");
+	EXPECT_FALSE(Kiln::createFolders(folder / "file"));
+	EXPECT_FALSE(Kiln::createFolders(folder / "file/a"));
+	EXPECT_FALSE(Kiln::createFolders(folder / "a<b"));
+}
+} // namespace

@@ -1,0 +1,144 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "ImportOverride.h"
+#include "TemporaryFolder.h"
+#include <algorithm>
+#include <limits>
+#include <string_view>
+#include <unordered_set>
+
+namespace
+{
+constexpr std::uint64_t last = std::numeric_limits<std::uint64_t>::max();
+
+TEST(NameVariants, StandBeforeTheExtension)
+{
+	const std::pair<const char*, const char*> rows[] = {
+		{"a/b.png", "a/b@.png"},
+		{"icon", "icon@"},
+		{"a.b/icon", "a.b/icon@"},
+		{"name.", "name@."},
+		{".profile", ".profile@"},
+		{"C:\\\xC3\xBC x.tar.gz", "C:\\\xC3\xBC x.tar@.gz"},
+		{"a/", "a/@"},
+	};
+	for (const auto& [path, expected] : rows)
+	{
+		const std::string pattern = expected;
+		const std::size_t at = pattern.find('@') + 1;
+		std::string out = path;
+		EXPECT_TRUE(Kiln::retinaVariantName(out, out));
+		EXPECT_EQ(out, pattern.substr(0, at) + "2x" + pattern.substr(at));
+		EXPECT_TRUE(Kiln::platformVariantName(path, out));
+		EXPECT_EQ(out, pattern.substr(0, at) + "win" + pattern.substr(at));
+	}
+	std::string out = "untouched";
+	EXPECT_FALSE(Kiln::retinaVariantName("", out));
+	EXPECT_FALSE(Kiln::platformVariantName("", out));
+	EXPECT_EQ(out, "untouched");
+}
+
+TEST(NumberedNames, TakeTheNumberAndTheWidth)
+{
+	struct Row
+	{
+		const char* path;
+		std::uint64_t start;
+		unsigned width;
+		const char* expected;
+	};
+	const Row rows[] = {
+		{"dir/scan.png", 1, 1, "dir/scan-1.png"},
+		{"dir/scan.png", 7, 3, "dir/scan-007.png"},
+		{"scan.png", 1234, 3, "scan-1234.png"},
+		{"scan-12.png", 3, 2, "scan-03.png"},
+		{"scan-1-2", 0, 0, "scan-1-0"},
+		{"scan-x.png", 1, 1, "scan-x-1.png"},
+		{"-5.png", 1, 1, "-5-1.png"},
+		{"a-1/b", 2, 1, "a-1/b-2"},
+		{"C:\\\xC3\xBC-9.tar.gz", last, 1, "C:\\\xC3\xBC-9.tar-18446744073709551615.gz"},
+		{".profile", 1, 1, ".profile-1"},
+	};
+	for (const Row& row : rows)
+	{
+		std::string out;
+		EXPECT_TRUE(Kiln::numberedName(row.path, out, row.start, row.width));
+		EXPECT_EQ(out, row.expected);
+	}
+	std::string out = "untouched";
+	for (const char* path : {"", "/", "C:\\", "a/"})
+	{
+		EXPECT_FALSE(Kiln::numberedName(path, out));
+	}
+	EXPECT_FALSE(Kiln::numberedName("a", out, 1, 256));
+	EXPECT_EQ(out, "untouched");
+	EXPECT_TRUE(Kiln::numberedName(std::string(16'000, '-') + std::string(16'000, '1') + "x", out));
+}
+
+TEST(NumberedNames, SkipWhatExistsAndFillGaps)
+{
+	const TemporaryFolder folder;
+	folder.file("shot-1.exr");
+	folder.file("shot-2.exr");
+	folder.file("shot-4.exr");
+	Kiln::createFolders(folder / "shot-5.exr");
+	folder.file("shot-18446744073709551615.exr");
+	const auto next = [&](std::uint64_t start, unsigned width = 1)
+	{
+		std::string out = "none";
+		Kiln::numberedName(folder / "shot.exr", out, start, width, true);
+		return out == "none" ? out : out.substr(folder.path.size() + 1);
+	};
+	EXPECT_EQ(next(0), "shot-0.exr");
+	EXPECT_EQ(next(1), "shot-3.exr");
+	EXPECT_EQ(next(4), "shot-6.exr");
+	EXPECT_EQ(next(1, 2), "shot-01.exr");
+	EXPECT_EQ(next(last), "none");
+}
+
+TEST(NumberedNames, GiveUpWhenThePlatformCannotTell)
+{
+	const ImportOverride denied("GetFileAttributesW", &GetFileAttributesW,
+		[](const wchar_t*)
+		{
+			SetLastError(ERROR_ACCESS_DENIED);
+			return INVALID_FILE_ATTRIBUTES;
+		});
+	const ImportOverride unopened("CreateFileW", &CreateFileW,
+		[](const wchar_t*, DWORD, DWORD, SECURITY_ATTRIBUTES*, DWORD, DWORD, HANDLE)
+		{
+			SetLastError(ERROR_ACCESS_DENIED);
+			return INVALID_HANDLE_VALUE;
+		});
+	std::string out = "untouched";
+	EXPECT_FALSE(Kiln::numberedName("C:\\a.b", out, 1, 1, true));
+	EXPECT_EQ(out, "untouched");
+}
+
+bool matches(std::string_view name, std::string_view pattern)
+{
+	return std::equal(name.begin(), name.end(), pattern.begin(), pattern.end(),
+		[](char c, char p)
+		{ return p == '%' ? std::string_view("0123456789abcdef").find(c) != std::string_view::npos : c == p; });
+}
+
+TEST(TemporaryPaths, DifferAndMatchThePattern)
+{
+	const std::string parent = Kiln::parentOf(Kiln::uniqueTemporaryPath());
+	std::unordered_set<std::string> seen;
+	for (int i = 0; i < 100'000; ++i)
+	{
+		std::string path = Kiln::uniqueTemporaryPath();
+		ASSERT_TRUE(matches(path, parent + "\\kln_%%%%_%%%%_%%%%")) << path;
+		ASSERT_TRUE(seen.insert(std::move(path)).second);
+	}
+}
+
+TEST(TemporaryPaths, LieInTheTemporaryFolderAndTakeAnExtension)
+{
+	const std::string path = Kiln::uniqueTemporaryPath("tar.%\xC3\xBC");
+	EXPECT_TRUE(path.ends_with(".tar.%\xC3\xBC")) << path;
+	EXPECT_TRUE(boost::filesystem::is_directory(Kiln::widePath(Kiln::parentOf(path))));
+	EXPECT_FALSE(boost::filesystem::exists(Kiln::widePath(path)));
+	EXPECT_EQ(Kiln::extensionOf(Kiln::uniqueTemporaryPath("")), "");
+}
+} // namespace

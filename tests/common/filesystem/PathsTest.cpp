@@ -1,0 +1,112 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "TemporaryFolder.h"
+#include <random>
+
+namespace
+{
+TEST(Paths, Parts)
+{
+	struct Row
+	{
+		std::string path, parent, stem, pathAndStem, extension;
+	};
+	const Row rows[] = {
+		{"", "", "", "", ""},
+		{"b", "", "b", "b", ""},
+		{"b.txt", "", "b", "b", "txt"},
+		{"C:\\a\\b.tar.gz", "C:\\a", "b.tar", "C:\\a\\b.tar", "gz"},
+		{"C:\\b.txt", "C:\\", "b", "C:\\b", "txt"},
+		{"C:b.txt", "C:", "b", "C:b", "txt"},
+		{"/b.txt", "/", "b", "/b", "txt"},
+		{"a.b/c", "a.b", "c", "a.b/c", ""},
+		{"a.b\\c/d.e", "a.b\\c", "d", "a.b\\c/d", "e"},
+		{"a//\\b.c", "a", "b", "a//\\b", "c"},
+		{".profile", "", ".profile", ".profile", ""},
+		{".profile.bak", "", ".profile", ".profile", "bak"},
+		{"a/.", "a", ".", "a/.", ""},
+		{"a/..", "a", "..", "a/..", ""},
+		{"name.", "", "name", "name", ""},
+		{"a/b/", "a/b", "", "a/b/", ""},
+		{"C:\\", "C:\\", "", "C:\\", ""},
+		{"C:", "C:", "", "C:", ""},
+		{"/", "/", "", "/", ""},
+		{"\\/\\", "\\/\\", "", "\\/\\", ""},
+		{"\\\\server\\share\\f.x", "\\\\server\\share", "f", "\\\\server\\share\\f", "x"},
+		{"\xC3\xBC/\xE2\x82\xAC.\xC3\xA4", "\xC3\xBC", "\xE2\x82\xAC", "\xC3\xBC/\xE2\x82\xAC", "\xC3\xA4"},
+	};
+	for (const Row& row : rows)
+	{
+		EXPECT_EQ(Kiln::parentOf(row.path), row.parent) << row.path;
+		EXPECT_EQ(Kiln::stemOf(row.path), row.stem) << row.path;
+		EXPECT_EQ(Kiln::stemOf(row.path, true), row.pathAndStem) << row.path;
+		EXPECT_EQ(Kiln::extensionOf(row.path), row.extension) << row.path;
+	}
+}
+
+TEST(Paths, PartsMakeThePathAgain)
+{
+	std::mt19937 random(2);
+	for (int round = 0; round < 1000; ++round)
+	{
+		std::string path(random() % 9, ' ');
+		for (char& c : path)
+		{
+			c = "aC:./\\"[random() % 6];
+		}
+		const std::string parent = Kiln::parentOf(path);
+		const std::string stem = Kiln::stemOf(path);
+		const std::string pathAndStem = Kiln::stemOf(path, true);
+		const std::string extension = Kiln::extensionOf(path);
+		EXPECT_TRUE(path.starts_with(parent)) << path;
+		EXPECT_TRUE(pathAndStem.starts_with(parent) && pathAndStem.ends_with(stem)) << path;
+		EXPECT_TRUE(path == pathAndStem + "." + extension || path == pathAndStem) << path;
+		EXPECT_TRUE(parent.size() < path.size() || Kiln::parentOf(parent) == parent) << path;
+	}
+}
+
+TEST(Paths, AbsoluteFormIsOneForEachFile)
+{
+	const std::pair<const char*, const char*> rows[] = {
+		{"C:\\a\\b", "C:\\a\\b"},
+		{"C:/a//./x/../b/", "C:\\a\\b"},
+		{"C:/", "C:\\"},
+		{"C:\\..\\..", "C:\\"},
+		{"//server/share/a", "\\\\server\\share\\a"},
+		{"\\\\?\\C:\\", "\\\\?\\C:\\"},
+	};
+	for (const auto& [path, absolute] : rows)
+	{
+		EXPECT_EQ(Kiln::absolutePath(path), absolute);
+		EXPECT_EQ(Kiln::absolutePath(absolute), absolute);
+	}
+	const std::string current = Kiln::absolutePath(".");
+	EXPECT_TRUE(current.size() >= 3 && current[1] == ':') << current;
+	EXPECT_EQ(Kiln::parentOf(Kiln::absolutePath("\xC3\xBC x.log")), current);
+	EXPECT_EQ(Kiln::absolutePath("/a"), current.substr(0, 2) + "\\a");
+	EXPECT_EQ(Kiln::pathKey("C:/LOGS/\xC3\x9C.log"), Kiln::pathKey("c:\\x\\..\\logs\\\xC3\xBC.LOG"));
+	EXPECT_NE(Kiln::pathKey("C:/a.log"), Kiln::pathKey("C:/b.log"));
+}
+
+TEST(Paths, NoFormForWhatNoFileHas)
+{
+	EXPECT_EQ(Kiln::absolutePath(""), "");
+	EXPECT_EQ(Kiln::widePath(std::string("a\0b", 3)), L"");
+	EXPECT_EQ(Kiln::absolutePath(std::string("C:\\a\0b", 6)), "");
+	EXPECT_EQ(Kiln::pathKey(""), "");
+}
+
+TEST(Streams, OpenFilesByTheirUtf8Names)
+{
+	const TemporaryFolder folder;
+	const std::string path = folder / "\xE2\x82\xAC.txt";
+	EXPECT_FALSE(Kiln::openInput(path));
+	Kiln::openOutput(path) << "one";
+	Kiln::openOutput(path, std::ios::app) << " two";
+	EXPECT_EQ(Kiln::listFiles(folder.path), std::vector<std::string>{"\xE2\x82\xAC.txt"});
+	std::string text;
+	std::getline(Kiln::openInput(path), text);
+	EXPECT_EQ(text, "one two");
+	EXPECT_FALSE(Kiln::openOutput(folder / "missing/file"));
+	EXPECT_FALSE(Kiln::openInput(""));
+}
+} // namespace

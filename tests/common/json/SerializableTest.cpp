@@ -1,0 +1,102 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+#include <kiln/SerializableJsonObject.h>
+#include <sstream>
+#include <streambuf>
+#include <string>
+#include <utility>
+
+namespace
+{
+using Kiln::SerializableJsonObject;
+
+SerializableJsonObject makeObject()
+{
+	SerializableJsonObject object;
+	object["first"] = json::Number(1);
+	object["second"]["inside"] = json::String("a\tb\"");
+	return object;
+}
+
+constexpr const char* ObjectText = "{\n\t\"first\" : 1,\n\t\"second\" : {\n\t\t\"inside\" : \"a\\tb\\\"\"\n\t}\n}";
+
+std::string textOf(const Kiln::Serializable& object)
+{
+	std::ostringstream stream;
+	return object.serialize(stream) ? stream.str() : "not serialised" + stream.str();
+}
+
+TEST(Serializable, AnObjectThatWritesNothingIsNotSerialised)
+{
+	struct Failing : Kiln::Serializable
+	{
+		bool toJson(json::Object& out) const override
+		{
+			out["half"] = json::Number(1);
+			return false;
+		}
+	};
+	struct Empty : Kiln::Serializable
+	{
+		bool toJson(json::Object&) const override { return true; }
+	};
+	EXPECT_EQ(textOf(Kiln::Serializable()), "not serialised");
+	EXPECT_EQ(textOf(Failing()), "not serialised");
+	EXPECT_EQ(textOf(Empty()), "{}");
+	EXPECT_FALSE(Empty().reserved());
+}
+
+TEST(Serializable, TheStreamIsFlushedAtTheEnd)
+{
+	struct Buffer : std::stringbuf
+	{
+		int sync() override
+		{
+			flushed = str();
+			return 0;
+		}
+		std::string flushed;
+	} buffer;
+	std::ostream stream(&buffer);
+	EXPECT_TRUE(makeObject().serialize(stream));
+	EXPECT_EQ(buffer.flushed, ObjectText);
+}
+
+TEST(SerializableJsonObject, ReplacesAllThatTheOtherHeld)
+{
+	const SerializableJsonObject object = makeObject();
+	json::Object out;
+	out["second"] = json::Number(2);
+	out["surplus"] = json::Number(3);
+	EXPECT_TRUE(object.toJson(out));
+	EXPECT_EQ(out, object);
+	out["second"]["inside"] = json::Null();
+	EXPECT_EQ(textOf(object), ObjectText) << "the copy is deep";
+}
+
+TEST(SerializableJsonObject, MayBeGivenItselfOrItsOwnPart)
+{
+	SerializableJsonObject object = makeObject();
+	EXPECT_TRUE(object.toJson(object));
+	EXPECT_EQ(textOf(object), ObjectText);
+	EXPECT_TRUE(object.toJson(object["second"]));
+	EXPECT_EQ(object["second"], json::Object(makeObject()));
+}
+
+TEST(SerializableJsonObject, TakesMembersOver)
+{
+	json::Object members = makeObject();
+	SerializableJsonObject object(std::move(members));
+	EXPECT_TRUE(members.Empty());
+	EXPECT_EQ(textOf(object), ObjectText);
+
+	SerializableJsonObject& same = object;
+	object = same;
+	EXPECT_EQ(textOf(object), ObjectText);
+	SerializableJsonObject moved = std::move(object);
+	EXPECT_EQ(textOf(object), "{}");
+	object["new"];
+	object = std::move(moved);
+	EXPECT_EQ(textOf(object), ObjectText);
+}
+} // namespace

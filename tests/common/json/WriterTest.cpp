@@ -1,0 +1,207 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include <cajun/json/writer.h>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <iomanip>
+#include <limits>
+#include <locale>
+#include <random>
+#include <sstream>
+#include <string>
+
+namespace
+{
+std::string textOf(const json::UnknownElement& element)
+{
+	std::ostringstream stream;
+	json::Writer::Write(element, stream);
+	return stream.str();
+}
+
+/** What a stream makes of a number with a precision of so many digits. */
+std::string printed(double value, int precision)
+{
+	std::ostringstream stream;
+	stream.imbue(std::locale::classic());
+	stream << std::setprecision(precision) << value;
+	return stream.str();
+}
+
+/** The definition of the default precision, tried out; strtod is not exact everywhere. */
+std::string printedShortest(double value)
+{
+	for (int precision = 15; precision < 17; ++precision)
+	{
+		const std::string text = printed(value, precision);
+		double back = 0;
+		std::from_chars(text.data(), text.data() + text.size(), back);
+		if (back == value)
+		{
+			return text;
+		}
+	}
+	return printed(value, 17);
+}
+
+TEST(Writer, LaysOutOneMemberALine)
+{
+	json::Object root;
+	root["text"] = json::String("x");
+	root["none"] = json::Null();
+	root["list"][0] = json::Number(1);
+	root["list"][1]["deep"] = json::Boolean(true);
+	root["list"][1]["no"] = json::Boolean(false);
+	root["list"][2] = json::Object();
+	root["last"] = json::Array();
+	EXPECT_EQ(textOf(root), "{\n"
+							"\t\"text\" : \"x\",\n"
+							"\t\"none\" : null,\n"
+							"\t\"list\" : [\n"
+							"\t\t1,\n"
+							"\t\t{\n"
+							"\t\t\t\"deep\" : true,\n"
+							"\t\t\t\"no\" : false\n"
+							"\t\t},\n"
+							"\t\t{}\n"
+							"\t],\n"
+							"\t\"last\" : []\n"
+							"}");
+	EXPECT_EQ(textOf(json::Object()), "{}");
+	EXPECT_EQ(textOf(json::Array()), "[]");
+}
+
+TEST(Writer, EscapesSevenBytesInTextsAndNames)
+{
+	std::string every;
+	for (int byte = 0; byte < 256; ++byte)
+	{
+		every += static_cast<char>(byte);
+	}
+	std::string expected;
+	for (const char byte : every)
+	{
+		const std::size_t at = std::string("\b\t\n\f\r\"\\").find(byte);
+		expected += at == std::string::npos ? std::string(1, byte) : std::string("\\") + "btnfr\"\\"[at];
+	}
+	EXPECT_EQ(textOf(json::String(every)), "\"" + expected + "\"");
+	json::Object object;
+	object[every];
+	EXPECT_EQ(textOf(object), "{\n\t\"" + expected + "\" : null\n}");
+	const std::string large(10'000, '"');
+	EXPECT_EQ(textOf(json::String(large)).size(), 20'002u);
+	const std::string plain(10'000, 'x');
+	EXPECT_EQ(textOf(json::String(plain)), "\"" + plain + "\"");
+}
+
+TEST(Writer, WritesNumbersAsTheyRead)
+{
+	constexpr double Infinity = std::numeric_limits<double>::infinity();
+	const std::pair<json::Number, const char*> table[] = {
+		{0, "0"},
+		{-0.0, "-0"},
+		{-1, "-1"},
+		{0.1, "0.1"},
+		{-2.5, "-2.5"},
+		{1.0 / 3, "0.3333333333333333"},
+		{0.1 + 0.2, "0.30000000000000004"},
+		{0.0001, "0.0001"},
+		{0.000012, "1.2e-05"},
+		{999999999999999, "999999999999999"},
+		{1e15, "1e+15"},
+		{1125899906842625, "1125899906842625"},
+		{9007199254740991, "9007199254740991"},
+		{9007199254740992, "9007199254740992"},
+		{9007199254740994, "9007199254740994"},
+		{1152921504606846976.0, "1.152921504606847e+18"},
+		{{1152921504606846976.0, 20}, "1152921504606846976"},
+		{1e300, "1e+300"},
+		{5e-324, "4.94065645841247e-324"},
+		{std::numeric_limits<double>::max(), "1.7976931348623157e+308"},
+		{{3.14159, 3}, "3.14"},
+		{{1234, 2}, "1.2e+03"},
+		{{1234, 0}, "1e+03"},
+		{{0.1, 20}, "0.10000000000000000555"},
+		{Infinity, "null"},
+		{-Infinity, "null"},
+		{{std::numeric_limits<double>::quiet_NaN(), 5}, "null"},
+	};
+	for (const auto& [number, text] : table)
+	{
+		EXPECT_EQ(textOf(number), text);
+	}
+}
+
+TEST(Writer, TakesTheFewestDigitsOfFifteenToSeventeenThatReadBack)
+{
+	std::mt19937_64 random(1);
+	for (int round = 0; round < 4'000; ++round)
+	{
+		const std::uint64_t bits = random();
+		double value = 0;
+		std::memcpy(&value, &bits, sizeof value);
+		// Random bits, decimals, powers of two, and integers around the limits of 15 to 17 digits
+		const int places = static_cast<int>(bits % 23);
+		const double decimal = static_cast<double>(bits >> 11) / std::pow(10, places);
+		const double power = std::ldexp(bits & 1 ? 1 : -1, static_cast<int>(bits % 2200) - 1100);
+		const double integer = static_cast<double>(bits >> (bits % 20));
+		for (const double tried : {value, decimal, power, integer})
+		{
+			if (std::isfinite(tried))
+			{
+				ASSERT_EQ(textOf(json::Number(tried)), printedShortest(tried));
+			}
+		}
+	}
+	for (const double value : {0.1, 123456.789, 1e-310, 1e308, 5e-324, 2.0 / 3})
+	{
+		for (const int precision : {0, 1, 6, 17, 30, 400, 800, 5000})
+		{
+			ASSERT_EQ(textOf(json::Number(value, precision)), printed(value, precision)) << precision;
+		}
+	}
+}
+
+TEST(Writer, NeitherObeysNorChangesTheStreamsFormat)
+{
+	struct DecimalComma : std::numpunct<char>
+	{
+		char do_decimal_point() const override { return ','; }
+		char do_thousands_sep() const override { return '.'; }
+		std::string do_grouping() const override { return "\3"; }
+	};
+	const std::locale comma(std::locale::classic(), new DecimalComma);
+	const std::locale global = std::locale::global(comma);
+	std::ostringstream stream;
+	stream.imbue(comma);
+	stream << std::hex << std::fixed << std::showpos << std::setprecision(2) << std::setfill('*') << std::boolalpha;
+	const std::ios::fmtflags flags = stream.flags();
+	json::Array array;
+	array.Insert(json::Number(1234567.5));
+	array.Insert(json::Number(1234.25, 17));
+	array.Insert(json::Number(30000));
+	stream.width(40);
+	json::Writer::Write(array, stream);
+	EXPECT_EQ(stream.str(), "[\n\t1234567.5,\n\t1234.25,\n\t30000\n]");
+	EXPECT_EQ(stream.flags(), flags);
+	EXPECT_EQ(stream.precision(), 2);
+	EXPECT_EQ(stream.fill(), '*');
+	EXPECT_EQ(stream.width(), 40);
+	EXPECT_EQ(stream.getloc(), comma);
+	std::locale::global(global);
+}
+
+TEST(Writer, WritesEveryKindByItself)
+{
+	std::ostringstream stream;
+	json::Writer::Write(json::Null(), stream);
+	json::Writer::Write(json::Boolean(true), stream);
+	json::Writer::Write(json::Number(2), stream);
+	json::Writer::Write(json::String("s"), stream);
+	json::Writer::Write(json::Array(), stream);
+	json::Writer::Write(json::Object(), stream);
+	EXPECT_EQ(stream.str(), "nulltrue2\"s\"[]{}");
+}
+} // namespace
