@@ -1,6 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "TonalithEditorModule.h"
 
+#include "EditorStringTable.h"
 #include "Modules/ModuleManager.h"
 
 DEFINE_LOG_CATEGORY(LogTonalithEditor);
@@ -9,6 +10,8 @@ IMPLEMENT_MODULE(FTonalithEditorModule, TonalithEditor)
 
 void FTonalithEditorModule::StartupModule()
 {
+	// Before anything that shows a text.
+	LoadEditorStrings();
 	BindWorldInitialization();
 	BindEngineLoop();
 }

@@ -1,0 +1,104 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// The one file where engine and library types meet.
+#include "EditorStringTable.h"
+
+#include "CoreMinimal.h"
+#include "Internationalization/Culture.h"
+#include "MachineFolder.h"
+#include "Misc/ScopeLock.h"
+
+#include <exception>
+#include <kiln/FolderLoader.h>
+
+namespace
+{
+struct FStringTable
+{
+	Kiln::Locale::StringTable Texts;
+
+	/** Of the file, as the loader resolved it. */
+	std::string Locale;
+};
+
+/** Guards the table. */
+FCriticalSection Mutex;
+TUniquePtr<FStringTable> Table;
+
+constexpr const char* TableName = "table";
+
+FString ToEngine(const std::string& Utf8)
+{
+	const FUTF8ToTCHAR Converted(Utf8.data(), static_cast<int32>(Utf8.size()));
+	return FString::ConstructFromPtrSize(Converted.Get(), Converted.Length());
+}
+
+std::string Fill(std::string Text, const std::unordered_map<std::string, std::string>& Arguments)
+{
+	constexpr size_t MarkLength = 2;
+	size_t Open = Text.find("{{");
+	while (Open != std::string::npos)
+	{
+		const size_t Close = Text.find("}}", Open + MarkLength);
+		if (Close == std::string::npos)
+		{
+			break;
+		}
+		const size_t End = Close + MarkLength;
+		const auto Argument = Arguments.find(Text.substr(Open + MarkLength, Close - Open - MarkLength));
+		if (Argument == Arguments.end())
+		{
+			Open = Text.find("{{", End);
+			continue;
+		}
+		Text.replace(Open, End - Open, Argument->second);
+		Open = Text.find("{{", Open + Argument->second.size());
+	}
+	return Text;
+}
+} // namespace
+
+bool LoadStringTable(const std::string& Locale)
+{
+	const FScopeLock Lock(&Mutex);
+	Kiln::Locale::FolderLoader Loader(StringFileFolder(), TableName);
+	const Kiln::Locale::FileChoice Choice = Loader.choose(Locale);
+	if (!Table.IsValid() || Table->Locale != Choice.locale)
+	{
+		TUniquePtr<FStringTable> Loaded = MakeUnique<FStringTable>();
+		Loaded->Locale = Choice.locale;
+		if (Choice.match != Kiln::Locale::Match::none)
+		{
+			Loader.load(Loaded->Texts, Choice.locale);
+		}
+		Table = MoveTemp(Loaded);
+	}
+	if (!Loader.error().empty())
+	{
+		UE_LOG(LogTemp, Warning, TEXT("LoadStringTable: %s"), *ToEngine(Loader.error()));
+	}
+	return Choice.match != Kiln::Locale::Match::none;
+}
+
+FText LocalizedText(const std::string& Key, const std::unordered_map<std::string, std::string>& Arguments)
+{
+	const FScopeLock Lock(&Mutex);
+	if (!Table.IsValid())
+	{
+		return FText::FromString(ToEngine(Key));
+	}
+	const auto Found = Table->Texts.find(Key);
+	return FText::FromString(ToEngine(Found == Table->Texts.end() ? Key : Fill(Found->second, Arguments)));
+}
+
+void LoadEditorStrings()
+{
+	const FString Language = FInternationalization::Get().GetCurrentCulture()->GetTwoLetterISOLanguageName();
+	try
+	{
+		LoadStringTable(TCHAR_TO_UTF8(*Language));
+	}
+	catch (const std::exception& Failure)
+	{
+		UE_LOG(LogTemp, Warning, TEXT("LoadEditorStrings: %s"), *ToEngine(Failure.what()));
+	}
+}

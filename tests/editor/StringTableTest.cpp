@@ -1,0 +1,212 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// The string table by itself: its source is compiled into this program, which has a machine-wide folder of its own.
+#include "EditorStringTable.h"
+#include "Host/Culture.h"
+#include "Misc/OutputDevice.h"
+#include "Misc/OutputDeviceRedirector.h"
+#include "RedirectMachineFolder.h"
+
+#include <atomic>
+#include <boost/filesystem.hpp>
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <thread>
+#include <windows.h>
+
+using testing::ElementsAre;
+using testing::StartsWith;
+
+class StringTable
+	: public testing::Test
+	, private FOutputDevice
+{
+protected:
+	StringTable()
+		: Root(std::filesystem::temp_directory_path() / (L"tonalith-strings-" + std::to_wstring(GetCurrentProcessId())))
+	{
+		std::filesystem::remove_all(Root);
+		EXPECT_TRUE(RedirectMachineFolder(Root.wstring().c_str()));
+		GLog->AddOutputDevice(this);
+	}
+
+	~StringTable() override
+	{
+		GLog->RemoveOutputDevice(this);
+		std::error_code Ignored;
+		std::filesystem::remove_all(Root, Ignored);
+	}
+
+	std::filesystem::path Folder() const { return Root / "Vantor/com.vantor.look/translations/unreal"; }
+
+	void Write(const std::string& Locale, const std::string& Json) const
+	{
+		std::filesystem::create_directories(Folder());
+		std::ofstream(Folder() / ("table_" + Locale + ".json"), std::ios::binary) << Json;
+	}
+
+	static std::string Text(const std::string& Key, const std::unordered_map<std::string, std::string>& Arguments = {})
+	{
+		return TCHAR_TO_UTF8(*LocalizedText(Key, Arguments).ToString());
+	}
+
+	std::vector<std::string> Warnings;
+
+private:
+	void Serialize(const TCHAR* Line, ELogVerbosity::Type Verbosity, const FName& Category) override
+	{
+		if (Category == FName("LogTemp") && Verbosity == ELogVerbosity::Warning)
+		{
+			Warnings.push_back(TCHAR_TO_UTF8(Line));
+		}
+	}
+
+	const std::filesystem::path Root;
+};
+
+TEST_F(StringTable, WithoutFilesTheKeysShow)
+{
+	EXPECT_EQ(Text("A.b"), "A.b");
+	EXPECT_FALSE(LoadStringTable("fr"));
+	EXPECT_EQ(Text("A.b {{c}} \xC3\xBC", {{"c", "d"}}), "A.b {{c}} \xC3\xBC");
+	EXPECT_THAT(Warnings, ElementsAre());
+}
+
+TEST_F(StringTable, PlaceholdersAreFilledOnceFromTheStart)
+{
+	const struct
+	{
+		const char* Text;
+		const char* Expected;
+	} Rows[] = {
+		{"plain", "plain"},
+		{"{{a}}", "1"},
+		{"x{{a}}y{{b}}z", "x1y{{a}}z"},
+		{"{{a}}{{a}}", "11"},
+		{"{{unknown}} {{a}}", "{{unknown}} 1"},
+		{"{{ a }}{{A}}", "{{ a }}{{A}}"},
+		{"{{}}{{a}}", "empty1"},
+		{"{{a", "{{a"},
+		{"a}}", "a}}"},
+		{"{a}", "{a}"},
+		{"{{{a}}}", "{{{a}}}"},
+		{"{{x {{a}}", "{{x {{a}}"},
+		{"{{a}} and {{", "1 and {{"},
+		{"{{b}}}}", "{{a}}}}"},
+		{"{{\xC3\xBC}}", "\xE4\xB8\xAD"},
+	};
+	for (const auto& Row : Rows)
+	{
+		Write("fr", std::string("{\"key\": \"") + Row.Text + "\"}");
+		Write("de", "{}");
+		EXPECT_TRUE(LoadStringTable("de"));
+		EXPECT_TRUE(LoadStringTable("fr"));
+		EXPECT_EQ(Text("key", {{"a", "1"}, {"b", "{{a}}"}, {"", "empty"}, {"\xC3\xBC", "\xE4\xB8\xAD"}}), Row.Expected);
+		EXPECT_EQ(Text("key"), Row.Text);
+	}
+}
+
+TEST_F(StringTable, StaysForTheSameFileAndIsReplacedForAnother)
+{
+	Write("en-US", "{\"key\": \"English\"}");
+	Write("fr-CA", "{\"key\": \"Fran\xC3\xA7"
+				   "ais\"}");
+	EXPECT_TRUE(LoadStringTable("fr"));
+	EXPECT_EQ(Text("key"), "Fran\xC3\xA7"
+						   "ais");
+	EXPECT_EQ(Text("Key"), "Key");
+
+	Write("fr-CA", "{\"key\": \"changed\"}");
+	EXPECT_TRUE(LoadStringTable("fr_CA"));
+	EXPECT_EQ(Text("key"), "Fran\xC3\xA7"
+						   "ais");
+	EXPECT_TRUE(LoadStringTable("it"));
+	EXPECT_EQ(Text("key"), "English");
+	EXPECT_TRUE(LoadStringTable("fr"));
+	EXPECT_EQ(Text("key"), "changed");
+
+	std::filesystem::remove_all(Folder());
+	EXPECT_FALSE(LoadStringTable("fr"));
+	EXPECT_EQ(Text("key"), "key") << "an empty table replaces the old one";
+}
+
+TEST_F(StringTable, ABrokenFileIsReportedAndTheKeysShow)
+{
+	Write("fr", "{\n\"key\": \"\xFF\"}");
+	EXPECT_TRUE(LoadStringTable("fr"));
+	EXPECT_EQ(Text("key"), "key");
+	EXPECT_THAT(Warnings, ElementsAre(testing::AllOf(StartsWith("LoadStringTable: "),
+							  testing::EndsWith("table_fr.json:2:9: Invalid encoding in string."))));
+}
+
+TEST_F(StringTable, FailuresOfTheFolderAreRaisedAndStopAtStartUp)
+{
+	std::filesystem::create_directories(Folder().parent_path());
+	std::ofstream(Folder(), std::ios::binary) << "a file";
+	try
+	{
+		LoadStringTable("fr");
+		ADD_FAILURE() << "nothing was raised";
+	}
+	catch (const boost::filesystem::filesystem_error& Failure)
+	{
+		EXPECT_THAT(Failure.what(), StartsWith("directory_iterator::directory_iterator"));
+	}
+	HostCulture::Set(TEXT("fr-CA"));
+	LoadEditorStrings();
+	EXPECT_THAT(Warnings, ElementsAre(StartsWith("LoadEditorStrings: directory_iterator::directory_iterator")));
+	EXPECT_EQ(Text("key"), "key");
+}
+
+TEST_F(StringTable, StartUpTakesTheLanguageOfTheCulture)
+{
+	Write("en-US", "{\"key\": \"English\"}");
+	Write("fr-FR", "{\"key\": \"France\"}");
+	Write("fr-ZZ", "{\"key\": \"last\"}");
+	HostCulture::Set(TEXT("fr-FR"));
+	LoadEditorStrings();
+	EXPECT_EQ(Text("key"), "last") << "the region is not passed on";
+}
+
+TEST_F(StringTable, WithoutACultureStartUpIsFatal)
+{
+	EXPECT_EXIT(
+		{
+			HostCulture::Clear();
+			LoadEditorStrings();
+		},
+		testing::ExitedWithCode(3), "IsValid\\(\\)");
+}
+
+TEST_F(StringTable, ServesLookUpsWhileItIsLoaded)
+{
+	Write("de", "{\"key\": \"de\"}");
+	Write("fr", "{\"key\": \"fr\"}");
+	EXPECT_TRUE(LoadStringTable("de"));
+	std::atomic<bool> bDone = false;
+	std::atomic<int> Wrong = 0;
+	std::vector<std::thread> Readers;
+	for (int Reader = 0; Reader < 3; ++Reader)
+	{
+		Readers.emplace_back(
+			[&]
+			{
+				while (!bDone)
+				{
+					const std::string Seen = Text("key");
+					Wrong += Seen != "de" && Seen != "fr";
+				}
+			});
+	}
+	for (int Round = 0; Round < 50; ++Round)
+	{
+		EXPECT_TRUE(LoadStringTable(Round % 2 ? "de" : "fr"));
+	}
+	bDone = true;
+	for (std::thread& Reader : Readers)
+	{
+		Reader.join();
+	}
+	EXPECT_EQ(Wrong, 0);
+}
