@@ -56,7 +56,7 @@ int main(int Count, char** Arguments)
 	{
 		const DWORD Code = RunAlone(Arguments[0], Test);
 		Failures += Code != 0;
-		std::printf("%s %s\n", Code == 0 ? "passed" : "FAILED", Test.c_str());
+		std::printf("%s %s (exit code %lu)\n", Code == 0 ? "passed" : "FAILED", Test.c_str(), Code);
 		std::fflush(stdout);
 	}
 	std::printf("%zu passed, %d failed\n", Tests.size() - static_cast<size_t>(Failures), Failures);

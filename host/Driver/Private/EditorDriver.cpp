@@ -5,6 +5,8 @@
 #include "HAL/IConsoleManager.h"
 #include "Host/Trace.h"
 #include "LevelEditor.h"
+#include "Misc/Paths.h"
+#include "RedirectMachineFolder.h"
 #include "SLevelViewport.h"
 
 namespace
@@ -40,6 +42,10 @@ void FEditorDriver::Start(const FEngineLoopOptions& Options)
 	if (bIsRunning)
 	{
 		throw FDriverError(TEXT("the editor is running already"));
+	}
+	if (!RedirectMachineFolder(FPaths::Combine(Options.ProjectFolder, TEXT("ProgramData"))))
+	{
+		throw FDriverError(TEXT("the machine-wide folder cannot be redirected"));
 	}
 	FString Error;
 	if (!Loop.Init(Options, Error))

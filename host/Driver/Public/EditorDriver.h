@@ -23,7 +23,10 @@ public:
 class FEditorDriver
 {
 public:
-	/** Starts the editor as far as an empty layout. */
+	/**
+	 * Starts the editor as far as an empty layout. The session's machine-wide folder for application data is "ProgramData"
+	 * in the project's folder; what the machine itself has there is never seen.
+	 */
 	void Start(const FEngineLoopOptions& Options);
 
 	UWorld& MakeWorld(EWorldType::Type Type);

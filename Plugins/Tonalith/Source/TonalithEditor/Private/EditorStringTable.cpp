@@ -55,6 +55,16 @@ std::string Fill(std::string Text, const std::unordered_map<std::string, std::st
 	}
 	return Text;
 }
+/** Null for a key that the table does not have. The caller holds the lock. */
+const std::string* FindText(const std::string& Key)
+{
+	if (!Table.IsValid())
+	{
+		return nullptr;
+	}
+	const auto Found = Table->Texts.find(Key);
+	return Found == Table->Texts.end() ? nullptr : &Found->second;
+}
 } // namespace
 
 bool LoadStringTable(const std::string& Locale)
@@ -82,12 +92,13 @@ bool LoadStringTable(const std::string& Locale)
 FText LocalizedText(const std::string& Key, const std::unordered_map<std::string, std::string>& Arguments)
 {
 	const FScopeLock Lock(&Mutex);
-	if (!Table.IsValid())
+	const std::string* const Text = FindText(Key);
+	if (!Text)
 	{
 		return FText::FromString(ToEngine(Key));
 	}
-	const auto Found = Table->Texts.find(Key);
-	return FText::FromString(ToEngine(Found == Table->Texts.end() ? Key : Fill(Found->second, Arguments)));
+	// Without arguments every placeholder stays as it stands: no copy is needed to see that.
+	return FText::FromString(Arguments.empty() ? ToEngine(*Text) : ToEngine(Fill(*Text, Arguments)));
 }
 
 void LoadEditorStrings()
