@@ -1,6 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "StoryPlayer.h"
 
+#include "Host/Assets.h"
 #include "Misc/OutputDeviceRedirector.h"
 #include "Misc/Paths.h"
 
@@ -125,8 +126,7 @@ void FStoryPlayer::Play(const FStory& Story, size_t Session)
 	for (const FStoryStep& Step : Story.Steps())
 	{
 		const FVerb& Verb = FindVerb(Story, Step, Arguments);
-		// What the project holds stays so in later sessions.
-		if (Step.Session != Session && !(Step.Session < Session && Verb.Do == &FStoryPlayer::Asset))
+		if (Step.Session != Session)
 		{
 			continue;
 		}
@@ -162,17 +162,20 @@ bool FStoryPlayer::WasLogged(const std::string& Text) const
 
 void FStoryPlayer::NewProject(const FArguments&)
 {
-	std::error_code Failure;
-	std::filesystem::remove_all(std::filesystem::path(*Options.ProjectFolder) / "Saved", Failure);
-	if (Failure)
+	for (const char* Folder : {"Content", "Saved"})
 	{
-		throw FDriverError(TEXT("the project's saved files cannot be removed"));
+		std::error_code Failure;
+		std::filesystem::remove_all(std::filesystem::path(*Options.ProjectFolder) / Folder, Failure);
+		if (Failure)
+		{
+			throw FDriverError(TEXT("the project's files cannot be removed"));
+		}
 	}
 }
 
 void FStoryPlayer::Asset(const FArguments& Arguments)
 {
-	Options.Assets.Add({Wide(Arguments[0]), Wide(Arguments[1])});
+	HostAssets::Write(Options.ProjectFolder, Wide(Arguments[0]), Wide(Arguments[1]));
 }
 
 void FStoryPlayer::Start(const FArguments&)

@@ -3,6 +3,7 @@
 #include "DisplayRecords.h"
 #include "Editor.h"
 #include "EditorTest.h"
+#include "Host/Assets.h"
 #include "Misc/Paths.h"
 #include "SLevelViewport.h"
 #include "UObject/UObjectGlobals.h"
@@ -35,7 +36,11 @@ const std::string Default = "bDisplay=False,Weight=1.000000,Look=None";
 class ViewportSettings : public FEditorTest
 {
 protected:
-	ViewportSettings() { Options.Assets.Add({TEXT("/Script/Tonalith.TonalithObject"), TEXT("/Game/Looks/Warm.Warm")}); }
+	ViewportSettings()
+	{
+		HostAssets::Write(
+			Options.ProjectFolder, TEXT("/Script/Tonalith.TonalithObject"), TEXT("/Game/Looks/Warm.Warm"));
+	}
 
 	std::filesystem::path File() const
 	{
@@ -70,7 +75,7 @@ protected:
 	static UTonalithObject* Look()
 	{
 		return static_cast<UTonalithObject*>(
-			StaticFindObject(UTonalithObject::StaticClass(), TEXT("/Game/Looks/Warm.Warm")));
+			StaticLoadObject(UTonalithObject::StaticClass(), TEXT("/Game/Looks/Warm.Warm")));
 	}
 };
 

@@ -1,6 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // Settings of a plug-in in a file: the text is the engine's, typed by hand.
 #include "EditorTest.h"
+#include "Host/Assets.h"
 #include "Modules/ModuleManager.h"
 #include "Probe.h"
 #include "UObject/UObjectGlobals.h"
@@ -20,7 +21,7 @@ protected:
 	{
 		std::filesystem::create_directories(File().parent_path());
 		std::ofstream(File(), std::ios::binary) << Text;
-		Options.Assets.Add({TEXT("/Script/Probe.ProbeSettings"), TEXT("/Game/Things/A.A")});
+		HostAssets::Write(Options.ProjectFolder, TEXT("/Script/Probe.ProbeSettings"), TEXT("/Game/Things/A.A"));
 		Driver.Start(Options);
 		return FModuleManager::LoadModuleChecked<IProbeModule>("Probe").Settings();
 	}
@@ -40,7 +41,7 @@ TEST_F(Config, EveryKindIsWrittenAsTheEngineWritesIt)
 	Settings.Entries.Emplace();
 	Settings.Entries.Emplace();
 	Settings.Entries[0].Name = "it's \"A\\B\"_2";
-	Settings.Entries[1].Object = StaticFindObject(UObject::StaticClass(), TEXT("/Game/Things/A.A"));
+	Settings.Entries[1].Object = StaticLoadObject(UObject::StaticClass(), TEXT("/Game/Things/A.A"));
 	Settings.Entries[1].Inner.bFlag = false;
 	Settings.Forgotten = 5.0f;
 	const std::string Expected =
@@ -99,7 +100,7 @@ TEST_F(Config, ObjectsAreFoundByPathAndClass)
 	UClass* Class = static_cast<UClass*>(StaticFindObject(UClass::StaticClass(), TEXT("/Script/Probe.ProbeSettings")));
 	ASSERT_NE(Class, nullptr);
 	EXPECT_TRUE(Class->GetDefaultObject()->GetName().Equals(TEXT("Default__ProbeSettings")));
-	UObject* Object = StaticFindObject(Class, TEXT("/Game/Things/A.A"));
+	UObject* Object = StaticLoadObject(Class, TEXT("/Game/Things/A.A"));
 	ASSERT_NE(Object, nullptr);
 	EXPECT_TRUE(Object->GetPathName().Equals(TEXT("/Game/Things/A.A")));
 	EXPECT_EQ(StaticFindObject(UClass::StaticClass(), TEXT("/Game/Things/A.A")), nullptr);

@@ -26,6 +26,11 @@ FString FPaths::ProjectDir()
 	return ProjectFolder();
 }
 
+FString FPaths::ProjectContentDir()
+{
+	return ProjectDir() + TEXT("Content/");
+}
+
 FString FPaths::ProjectSavedDir()
 {
 	return ProjectDir() + TEXT("Saved/");
@@ -34,6 +39,12 @@ FString FPaths::ProjectSavedDir()
 FString FPaths::ProjectLogDir()
 {
 	return ProjectSavedDir() + TEXT("Logs/");
+}
+
+FString FPaths::GetPath(const FString& Path)
+{
+	const int32 Slash = Path.Find(TEXT("/"), ESearchCase::CaseSensitive, ESearchDir::FromEnd);
+	return Path.Mid(0, Slash == INDEX_NONE ? 0 : Slash);
 }
 
 bool FPaths::FileExists(const FString& Path)

@@ -3,6 +3,7 @@
 
 #include "Editor.h"
 #include "HAL/IConsoleManager.h"
+#include "Host/Assets.h"
 #include "Host/Trace.h"
 #include "LevelEditor.h"
 #include "Misc/Paths.h"
@@ -165,6 +166,7 @@ void FEditorDriver::UnloadModule(const FString& Name)
 void FEditorDriver::Quit()
 {
 	RequireStarted();
+	HostAssets::SaveDirtyPackages();
 	Loop.Exit();
 	bIsRunning = false;
 }

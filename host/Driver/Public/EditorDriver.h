@@ -63,7 +63,7 @@ public:
 	/** Shuts a module down in the middle of the session. */
 	void UnloadModule(const FString& Name);
 
-	/** A normal exit. */
+	/** A normal exit; the question whether to save what was changed is answered with yes. */
 	void Quit();
 
 private:

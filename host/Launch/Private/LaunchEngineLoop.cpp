@@ -3,6 +3,7 @@
 
 #include "Editor.h"
 #include "Framework/Application/SlateApplication.h"
+#include "Host/Assets.h"
 #include "Host/Culture.h"
 #include "Host/Log.h"
 #include "Host/Plugins.h"
@@ -47,10 +48,7 @@ bool FEngineLoop::Init(const FEngineLoopOptions& Options, FString& OutError) noe
 	HostLog::OpenFile(FPaths::Combine(FPaths::ProjectLogDir(), TEXT("HeadlessEditor.log")));
 	HostLog::StartTimeStamps();
 	HostCulture::Set(Options.Culture);
-	for (const FHostAsset& Asset : Options.Assets)
-	{
-		HostAssets::Declare(Asset);
-	}
+	HostAssets::Scan();
 	for (const FString& Folder : Options.PluginFolders)
 	{
 		if (!HostPlugins::Discover(Folder, OutError))
@@ -71,7 +69,6 @@ bool FEngineLoop::Init(const FEngineLoopOptions& Options, FString& OutError) noe
 	{
 		return false;
 	}
-	HostAssets::LoadAll();
 	if (!bIsCommandlet)
 	{
 		MakeEditor();

@@ -2,7 +2,7 @@
 // The editor's life: start, ticks, exit, each in the engine's order.
 #pragma once
 
-#include "Host/Assets.h"
+#include "CoreMinimal.h"
 
 struct FEngineLoopOptions
 {
@@ -14,9 +14,6 @@ struct FEngineLoopOptions
 
 	/** The editor's culture, such as "en" or "fr-CA". */
 	FString Culture = TEXT("en");
-
-	/** What the project's content holds. */
-	TArray<FHostAsset> Assets;
 
 	/** Without user interface and editor engine; the engine loop never reports completion. */
 	bool bIsCommandlet = false;

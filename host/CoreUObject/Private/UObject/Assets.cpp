@@ -1,50 +1,141 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Host/Assets.h"
 
+#include "Host/Trace.h"
+#include "Misc/ConfigCacheIni.h"
+#include "Misc/Paths.h"
+#include "ObjectConfig.h"
 #include "UObject/UObjectGlobals.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
 
 namespace
 {
-TArray<FHostAsset>& Known()
+constexpr const TCHAR* Extension = TEXT(".asset");
+constexpr const TCHAR* Section = TEXT("Asset");
+constexpr const TCHAR* ClassKey = TEXT("Class");
+constexpr const TCHAR* ContentRoot = TEXT("/Game/");
+
+/** By path. */
+std::map<FString, FAssetData>& Registry()
 {
-	static TArray<FHostAsset> Assets;
+	static std::map<FString, FAssetData> Assets;
 	return Assets;
 }
 
-UObject* Load(const FHostAsset& Asset)
+/** The file of a package such as "/Game/Looks/Warm". */
+FString FileOf(const FString& ContentFolder, const FString& Package)
 {
-	UClass* Class = static_cast<UClass*>(StaticFindObject(UClass::StaticClass(), *Asset.ClassPath));
+	return FPaths::Combine(ContentFolder, *Package.Replace(ContentRoot, TEXT(""))) + Extension;
+}
+
+FString FileOf(const FAssetData& Asset)
+{
+	return FileOf(FPaths::ProjectContentDir(), Asset.PackageName.ToString());
+}
+
+void Register(const FAssetData& Asset)
+{
+	Registry()[Asset.GetObjectPathString()] = Asset;
+}
+
+void RegisterFile(const std::filesystem::path& File, const std::filesystem::path& ContentFolder)
+{
+	TArray<FString> Class;
+	if (GConfig->GetArray(Section, ClassKey, Class, File.generic_wstring().c_str()) != 1)
+	{
+		return;
+	}
+	const std::filesystem::path Package = File.lexically_relative(ContentFolder).replace_extension();
+	const FString PackageName = FString(ContentRoot) + Package.generic_wstring().c_str();
+	Register({FName(PackageName), FName(FPaths::GetPath(PackageName)), FName(Package.filename().c_str()),
+		FTopLevelAssetPath(Class[0])});
+}
+
+UObject* Load(const FAssetData& Asset)
+{
+	UClass* Class = Asset.GetClass();
 	if (!Class)
 	{
 		return nullptr;
 	}
-	const int32 Point = Asset.Path.Find(TEXT("."));
-	UPackage* Package = CreatePackage(*Asset.Path.Mid(0, Point));
-	return StaticConstructObject(Class, Package, FName(Asset.Path.Mid(Point + 1)), RF_Public | RF_Standalone);
+	UPackage* Package = CreatePackage(*Asset.PackageName.ToString());
+	UObject* Object = StaticConstructObject(Class, Package, Asset.AssetName, RF_Public | RF_Standalone);
+	HostConfig::Read(*Object, CPF_Edit, Section, FileOf(Asset));
+	return Object;
 }
 } // namespace
 
-void HostAssets::Declare(const FHostAsset& Asset)
+void HostAssets::Scan()
 {
-	Known().Add(Asset);
+	const std::filesystem::path Folder(*FPaths::ProjectContentDir());
+	std::error_code NoFolder;
+	for (const auto& Entry : std::filesystem::recursive_directory_iterator(Folder, NoFolder))
+	{
+		if (Entry.path().extension() == Extension)
+		{
+			RegisterFile(Entry.path(), Folder);
+		}
+	}
 }
 
-void HostAssets::LoadAll()
+TArray<FAssetData> HostAssets::GetAll()
 {
-	for (const FHostAsset& Asset : Known())
+	TArray<FAssetData> Assets;
+	for (const auto& [Path, Asset] : Registry())
 	{
-		StaticLoadObject(UObject::StaticClass(), *Asset.Path);
+		Assets.Add(Asset);
 	}
+	return Assets;
+}
+
+void HostAssets::Add(UObject& Asset)
+{
+	Register(&Asset);
+	Asset.MarkPackageDirty();
+}
+
+void HostAssets::Delete(UObject& Asset)
+{
+	std::error_code Ignored;
+	std::filesystem::remove(*FileOf(&Asset), Ignored);
+	Registry().erase(Asset.GetPathName());
+	Asset.MarkAsGarbage();
+}
+
+void HostAssets::SaveDirtyPackages()
+{
+	for (const auto& [Path, Asset] : Registry())
+	{
+		UObject* Object = StaticFindObject(UObject::StaticClass(), *Path);
+		if (!Object || !Object->GetPackage()->IsDirty())
+		{
+			continue;
+		}
+		HostTrace::Line(TEXT("save asset %s"), *Path);
+		const FString File = FileOf(Asset);
+		GConfig->SetArray(Section, ClassKey, {Asset.AssetClassPath.ToString()}, File);
+		HostConfig::Write(*Object, CPF_Edit, Section, File);
+		Object->GetPackage()->SetDirtyFlag(false);
+	}
+}
+
+void HostAssets::Write(const FString& ProjectFolder, const FString& ClassPath, const FString& Path)
+{
+	const FString File = FileOf(FPaths::Combine(ProjectFolder, TEXT("Content")), Path.Mid(0, Path.Find(TEXT("."))));
+	GConfig->SetArray(Section, ClassKey, {ClassPath}, File);
+	GConfig->Flush(true, File);
 }
 
 UObject* StaticLoadObject(UClass* Class, const TCHAR* Path)
 {
 	UObject* Found = StaticFindObject(UObject::StaticClass(), Path);
-	const FHostAsset* Asset =
-		Known().FindByPredicate([Path](const FHostAsset& Candidate) { return Candidate.Path == Path; });
-	if (!Found && Asset)
+	const auto Asset = Registry().find(Path);
+	if (!Found && Asset != Registry().end())
 	{
-		Found = Load(*Asset);
+		Found = Load(Asset->second);
 	}
 	return Found && Found->IsA(Class) ? Found : nullptr;
 }

@@ -50,36 +50,44 @@ void ReadLines(const FProperty& Property, void* Value, const TArray<FString>& Li
 }
 } // namespace
 
-void HostConfig::Load(UObject& DefaultObject)
+void HostConfig::Read(UObject& Object, uint64 Flags, const TCHAR* Section, const FString& File)
 {
-	const UClass& Class = *DefaultObject.GetClass();
-	for (const auto& Property : Class.GetOwnProperties())
+	for (const auto& Property : Object.GetClass()->GetOwnProperties())
 	{
 		TArray<FString> Lines;
-		if (Property->HasAnyPropertyFlags(CPF_Config) &&
-			GConfig->GetArray(*Class.GetPathName(), *Property->GetName(), Lines, ConfigFile(Class)) > 0)
+		if (Property->HasAnyPropertyFlags(Flags) && GConfig->GetArray(Section, *Property->GetName(), Lines, File) > 0)
 		{
-			ReadLines(*Property, Property->ContainerPtrToValuePtr(&DefaultObject), Lines);
+			ReadLines(*Property, Property->ContainerPtrToValuePtr(&Object), Lines);
 		}
 	}
 }
 
-void UObject::SaveConfig(uint64 RequiredPropertyFlags, const TCHAR* Filename, FConfigCacheIni* Config, bool)
+void HostConfig::Write(UObject& Object, uint64 Flags, const TCHAR* Section, const FString& File)
 {
-	const UClass& Class = *GetClass();
-	if (!Class.HasAnyClassFlags(CLASS_Config))
+	for (const auto& Property : Object.GetClass()->GetOwnProperties())
 	{
-		return;
-	}
-	const FString File = Filename ? FString(Filename) : ConfigFile(Class);
-	for (const auto& Property : Class.GetOwnProperties())
-	{
-		if (Property->HasAnyPropertyFlags(RequiredPropertyFlags))
+		if (Property->HasAnyPropertyFlags(Flags))
 		{
-			Config->SetArray(*Class.GetPathName(), *Property->GetName(),
-				ValueLines(*Property, Property->ContainerPtrToValuePtr(this)), File);
+			GConfig->SetArray(
+				Section, *Property->GetName(), ValueLines(*Property, Property->ContainerPtrToValuePtr(&Object)), File);
 		}
 	}
-	HostTrace::Line(TEXT("save config of %s"), *Class.GetName());
-	Config->Flush(false, File);
+	GConfig->Flush(false, File);
+}
+
+void HostConfig::Load(UObject& DefaultObject)
+{
+	const UClass& Class = *DefaultObject.GetClass();
+	Read(DefaultObject, CPF_Config, *Class.GetPathName(), ConfigFile(Class));
+}
+
+void UObject::SaveConfig(uint64 RequiredPropertyFlags, const TCHAR* Filename, FConfigCacheIni*, bool)
+{
+	const UClass& Class = *GetClass();
+	if (Class.HasAnyClassFlags(CLASS_Config))
+	{
+		HostTrace::Line(TEXT("save config of %s"), *Class.GetName());
+		HostConfig::Write(
+			*this, RequiredPropertyFlags, *Class.GetPathName(), Filename ? FString(Filename) : ConfigFile(Class));
+	}
 }

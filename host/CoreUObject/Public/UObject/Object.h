@@ -25,6 +25,12 @@ public:
 	/** Null for packages. */
 	UObject* GetOuter() const { return OuterPrivate; }
 
+	/** The outermost object; a package gives itself. */
+	class UPackage* GetPackage() const;
+
+	/** Tells that the object's file has to be saved. */
+	bool MarkPackageDirty() const;
+
 	FName GetFName() const { return NamePrivate; }
 
 	FString GetName() const { return NamePrivate.ToString(); }

@@ -8,4 +8,11 @@ class COREUOBJECT_API UPackage : public UObject
 {
 public:
 	static UClass* StaticClass();
+
+	bool IsDirty() const { return bDirty; }
+
+	void SetDirtyFlag(bool bIsDirty) { bDirty = bIsDirty; }
+
+private:
+	bool bDirty = false;
 };
