@@ -1,5 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // String files: reading one of 10,000 keys, and choosing one out of 1,000.
+#include "Memory.h"
 #include "Subject.h"
 
 #include <filesystem>
@@ -78,6 +79,35 @@ void loader(benchmark::State& state)
 	}
 }
 
+/** Fails when the memory taken is more than a small multiple of the file's size. */
+void largeFile(benchmark::State& state)
+{
+	constexpr uint64_t Size = 100'000'000;
+	constexpr uint64_t MemoryLimit = 6 * Size;
+	std::filesystem::create_directories(folder());
+	const std::filesystem::path file = folder() / "huge.json";
+	{
+		std::ofstream stream(file, std::ios::binary);
+		stream << '{';
+		for (uint64_t key = 0; static_cast<uint64_t>(stream.tellp()) < Size; ++key)
+		{
+			stream << (key ? ",\n" : "\n") << "\"Key" << key << "\": \"" << std::string(80, 'x') << '"';
+		}
+		stream << "\n}\n";
+	}
+	for (auto _ : state)
+	{
+		const uint64_t before = Bench::peakMemory();
+		StringTable table;
+		Kiln::Locale::JSONLoader(file.string()).load(table, "en");
+		if (table.empty() || Bench::peakMemory() - before > MemoryLimit)
+		{
+			state.SkipWithError("the file was not read, or took more than six times its size");
+		}
+	}
+	std::filesystem::remove(file);
+}
+
 /** 1,000 string files. */
 std::string fullFolder()
 {
@@ -110,5 +140,6 @@ void listing(benchmark::State& state)
 
 const bool added = Bench::add({"string file of 10,000 keys, the walk", &walk, &inserts, 1.5}) &&
 				   Bench::add({"string file of 10,000 keys, the whole loader", &loader, &inserts}) &&
+				   Bench::add({"string file of 100 MB, the whole loader", &largeFile}) &&
 				   Bench::add({"locale choice among 1,000 files", &choice, &listing, 1.5});
 } // namespace

@@ -1,4 +1,5 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "CodeOverride.h"
 #include "ImportOverride.h"
 #include "TemporaryFolder.h"
 
@@ -63,6 +64,34 @@ TEST(ListFiles, NamesTheStepThatFails)
 			return real(name, access, share, security, creation, flags, pattern);
 		});
 	EXPECT_EQ(listingError(folder.path), Failure("directory_iterator::directory_iterator", ERROR_ACCESS_DENIED));
+}
+
+using Listing = CodeOverride<BOOL, HANDLE, FILE_INFO_BY_HANDLE_CLASS, void*, DWORD>;
+Listing* listing = nullptr;
+
+/** Gives the entries of a folder once; the next time access is denied. */
+BOOL listOnce(HANDLE folder, FILE_INFO_BY_HANDLE_CLASS kind, void* buffer, DWORD size)
+{
+	static bool given = false;
+	const bool isListing = kind == FileIdBothDirectoryInfo || kind == FileIdBothDirectoryRestartInfo ||
+						   kind == FileFullDirectoryInfo || kind == FileFullDirectoryRestartInfo;
+	if (isListing && given)
+	{
+		SetLastError(ERROR_ACCESS_DENIED);
+		return FALSE;
+	}
+	const BOOL done = listing->real(folder, kind, buffer, size);
+	given = given || (isListing && done);
+	return done;
+}
+
+TEST(ListFiles, NamesTheStepThatFailsOnTheWay)
+{
+	const TemporaryFolder folder;
+	folder.file("a");
+	Listing denied(L"kernelbase.dll", "GetFileInformationByHandleEx", &listOnce);
+	listing = &denied;
+	EXPECT_EQ(listingError(folder.path), Failure("directory_iterator::operator++", ERROR_ACCESS_DENIED));
 }
 
 TEST(ListFiles, StatusOfALinkThatLeadsToItselfIsAnError)
