@@ -3,7 +3,6 @@ new project
 asset /Script/Tonalith.TonalithObject /Game/Looks/Warm.Warm
 start
 expect log "broadcast FCoreDelegates::OnFEngineLoopInitComplete"
-make world Editor
 open pane "FourPanes2x2.Viewport 1.Viewport0"
 open pane "FourPanes2x2.Viewport 1.Viewport1"
 

@@ -9,7 +9,6 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <sstream>
 
 namespace
@@ -58,12 +57,15 @@ const std::vector<FStoryPlayer::FVerb>& FStoryPlayer::Verbs()
 	static const std::vector<FVerb> All{
 		{"new project", 0, &FStoryPlayer::NewProject},
 		{"asset", 2, &FStoryPlayer::Asset},
-		{"start", 0, &FStoryPlayer::Start},
-		{"make world", 1, &FStoryPlayer::MakeWorld},
+		{"put file", 2, &FStoryPlayer::PutFile},
+		{"start", 0, &FStoryPlayer::Start, true},
 		{"open pane", 1, &FStoryPlayer::OpenPane},
 		{"layout", 1, &FStoryPlayer::Layout},
 		{"close pane", 1, &FStoryPlayer::ClosePane},
 		{"activate pane", 1, &FStoryPlayer::ActivatePane},
+		{"create asset", 2, &FStoryPlayer::CreateAsset},
+		{"open assets", 1, &FStoryPlayer::OpenAssets, true},
+		{"save picture", 1, &FStoryPlayer::SavePicture},
 		{"play in pane", 0, &FStoryPlayer::PlayInPane},
 		{"play in window", 0, &FStoryPlayer::PlayInWindow},
 		{"end play", 0, &FStoryPlayer::EndPlay},
@@ -72,6 +74,7 @@ const std::vector<FStoryPlayer::FVerb>& FStoryPlayer::Verbs()
 		{"expect log", 1, &FStoryPlayer::ExpectLog},
 		{"expect no log", 1, &FStoryPlayer::ExpectNoLog},
 		{"expect file", 2, &FStoryPlayer::ExpectFile},
+		{"expect picture", 2, &FStoryPlayer::ExpectPicture},
 	};
 	return All;
 }
@@ -93,7 +96,8 @@ const FStoryPlayer::FVerb& FStoryPlayer::FindVerb(const FStory& Story, const FSt
 		{
 			OutArguments.push_back(Step.Words[Index].Text);
 		}
-		if (OutArguments.size() != Verb->ArgumentCount)
+		if (OutArguments.size() < Verb->ArgumentCount ||
+			(OutArguments.size() > Verb->ArgumentCount && !Verb->bTakesMore))
 		{
 			throw Story.Error(Step, Step.Words[Count - 1].Column,
 				"\"" + Verb->Words + "\" takes " + std::to_string(Verb->ArgumentCount) + " argument(s), not " +
@@ -162,7 +166,7 @@ bool FStoryPlayer::WasLogged(const std::string& Text) const
 
 void FStoryPlayer::NewProject(const FArguments&)
 {
-	for (const char* Folder : {"Content", "Saved"})
+	for (const char* Folder : {"Content", "ProgramData", "Saved"})
 	{
 		std::error_code Failure;
 		std::filesystem::remove_all(std::filesystem::path(*Options.ProjectFolder) / Folder, Failure);
@@ -178,21 +182,26 @@ void FStoryPlayer::Asset(const FArguments& Arguments)
 	HostAssets::Write(Options.ProjectFolder, Wide(Arguments[0]), Wide(Arguments[1]));
 }
 
-void FStoryPlayer::Start(const FArguments&)
+void FStoryPlayer::PutFile(const FArguments& Arguments)
 {
-	Driver.Start(Options);
+	const std::filesystem::path Source = *FPaths::Combine(StoryFolder, Wide(Arguments[0]));
+	const std::filesystem::path Target = *FPaths::Combine(Options.ProjectFolder, Wide(Arguments[1]));
+	std::error_code Failure;
+	std::filesystem::create_directories(Target.parent_path(), Failure);
+	std::filesystem::copy(Source, Target, std::filesystem::copy_options::recursive, Failure);
+	if (Failure)
+	{
+		throw FDriverError(Wide(Arguments[0]) + TEXT(" cannot be copied"));
+	}
 }
 
-void FStoryPlayer::MakeWorld(const FArguments& Arguments)
+void FStoryPlayer::Start(const FArguments& Arguments)
 {
-	static const std::map<std::string, EWorldType::Type> Types{{"Editor", EWorldType::Editor},
-		{"EditorPreview", EWorldType::EditorPreview}, {"Inactive", EWorldType::Inactive}, {"Game", EWorldType::Game}};
-	const auto Type = Types.find(Arguments[0]);
-	if (Type == Types.end())
+	if (!Arguments.empty())
 	{
-		throw FDriverError(TEXT("a world is of type Editor, EditorPreview, Inactive or Game"));
+		Options.Culture = Wide(Arguments.back());
 	}
-	Driver.MakeWorld(Type->second);
+	Driver.Start(Options);
 }
 
 void FStoryPlayer::OpenPane(const FArguments& Arguments)
@@ -213,6 +222,51 @@ void FStoryPlayer::ClosePane(const FArguments& Arguments)
 void FStoryPlayer::ActivatePane(const FArguments& Arguments)
 {
 	Driver.ActivatePane(Wide(Arguments[0]));
+}
+
+void FStoryPlayer::CreateAsset(const FArguments& Arguments)
+{
+	Driver.CreateAsset(Wide(Arguments[0]), Wide(Arguments[1]));
+}
+
+void FStoryPlayer::OpenAssets(const FArguments& Arguments)
+{
+	TArray<FString> Paths;
+	for (const std::string& Path : Arguments)
+	{
+		Paths.Add(Wide(Path));
+	}
+	Driver.OpenAssets(Paths);
+}
+
+FString FStoryPlayer::PictureFile(const std::string& Name) const
+{
+	return FPaths::Combine(Options.ProjectFolder, TEXT("Saved/Pictures"), Wide(Name) + TEXT(".png"));
+}
+
+void FStoryPlayer::SavePicture(const FArguments& Arguments)
+{
+	if (!::SavePicture(Driver.TakePicture(), PictureFile(Arguments[0])))
+	{
+		throw FDriverError(PictureFile(Arguments[0]) + TEXT(" cannot be written"));
+	}
+}
+
+void FStoryPlayer::ExpectPicture(const FArguments& Arguments)
+{
+	if (Arguments[0] != "like" && Arguments[0] != "unlike")
+	{
+		throw FDriverError(TEXT("a picture is expected to be \"like\" or \"unlike\" a saved one"));
+	}
+	FPicture Saved;
+	if (!LoadPicture(PictureFile(Arguments[1]), Saved))
+	{
+		throw FDriverError(PictureFile(Arguments[1]) + TEXT(" cannot be read"));
+	}
+	if (IsSamePicture(Driver.TakePicture(), Saved) != (Arguments[0] == "like"))
+	{
+		throw FDriverError(TEXT("the active pane does not show a picture ") + Wide(Arguments[0] + " " + Arguments[1]));
+	}
 }
 
 void FStoryPlayer::PlayInPane(const FArguments&)

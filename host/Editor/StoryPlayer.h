@@ -27,6 +27,9 @@ private:
 		std::string Words;
 		size_t ArgumentCount;
 		void (FStoryPlayer::*Do)(const FArguments& Arguments);
+
+		/** Whether the last argument may be repeated. */
+		bool bTakesMore = false;
 	};
 
 	static const std::vector<FVerb>& Verbs();
@@ -34,12 +37,15 @@ private:
 
 	void NewProject(const FArguments& Arguments);
 	void Asset(const FArguments& Arguments);
+	void PutFile(const FArguments& Arguments);
 	void Start(const FArguments& Arguments);
-	void MakeWorld(const FArguments& Arguments);
 	void OpenPane(const FArguments& Arguments);
 	void Layout(const FArguments& Arguments);
 	void ClosePane(const FArguments& Arguments);
 	void ActivatePane(const FArguments& Arguments);
+	void CreateAsset(const FArguments& Arguments);
+	void OpenAssets(const FArguments& Arguments);
+	void SavePicture(const FArguments& Arguments);
 	void PlayInPane(const FArguments& Arguments);
 	void PlayInWindow(const FArguments& Arguments);
 	void EndPlay(const FArguments& Arguments);
@@ -48,6 +54,10 @@ private:
 	void ExpectLog(const FArguments& Arguments);
 	void ExpectNoLog(const FArguments& Arguments);
 	void ExpectFile(const FArguments& Arguments);
+	void ExpectPicture(const FArguments& Arguments);
+
+	/** Where a story's picture lies. */
+	FString PictureFile(const std::string& Name) const;
 
 	bool WasLogged(const std::string& Text) const;
 	void Serialize(const TCHAR* Text, ELogVerbosity::Type Verbosity, const FName& Category) override;

@@ -173,7 +173,7 @@ def write(path, text):
 
 
 def run(arguments):
-    known = {"UObject": "class"}
+    known = {"UFactory": "class", "UObject": "class"}
     for file in arguments.known:
         known.update(json.loads(Path(file).read_text(encoding="utf-8")))
     out, own, readers = Path(arguments.out), {}, []

@@ -33,7 +33,8 @@ TEST_F(EditorWorld, AnotherEditorWorldTakesOver)
 	Driver.UnloadModule(TEXT("TonalithEditor"));
 	EXPECT_THAT(TakeTrace(),
 		ElementsAre("shut down module TonalithEditor", "unbind UEditorEngine::OnViewportClientListChanged (0)",
-			"unregister menu owner", "unbind FWorldDelegates::OnPreWorldInitialization (1)",
+			"unregister menu owner", "unregister style TonalithStyle", "unregister asset type TonalithObject",
+			"unbind FWorldDelegates::OnPreWorldInitialization (1)",
 			"unbind FCoreDelegates::OnFEngineLoopInitComplete (1)"));
 }
 

@@ -20,9 +20,10 @@ TEST_F(Lifecycle, StartBindsWorldsThenTheEngineLoopThenTheEditor)
 	Driver.Start(Options);
 	EXPECT_THAT(TakeTrace(),
 		ElementsAre("load library Tonalith", "start module Tonalith", "load library TonalithEditor",
-			"start module TonalithEditor", "bind FWorldDelegates::OnPreWorldInitialization",
-			"bind FCoreDelegates::OnFEngineLoopInitComplete", "make the editor engine", "start module AssetTools",
-			"start module ToolMenus", "start module LevelEditor", "broadcast FWorldDelegates::OnPreWorldInitialization",
+			"start module TonalithEditor", "bind FWorldDelegates::OnPreWorldInitialization", "start module AssetTools",
+			"register asset type TonalithObject", "bind FCoreDelegates::OnFEngineLoopInitComplete",
+			"register style TonalithStyle", "make the editor engine", "start module ToolMenus",
+			"start module LevelEditor", "broadcast FWorldDelegates::OnPreWorldInitialization",
 			"bind UWorld::OnFeatureLevelChanged", "broadcast FCoreDelegates::OnFEngineLoopInitComplete",
 			"bind UEditorEngine::OnLevelViewportClientListChanged", "bind FEditorDelegates::PreBeginPIE",
 			"bind FEditorDelegates::PostPIEStarted", "bind UGameViewportClient::CreatedDelegate"));
@@ -38,7 +39,7 @@ TEST_F(Lifecycle, NormalExitFindsObjectsAndAssetToolsGone)
 		TakeTrace(), ElementsAre("editor exit", "shut down module AssetTools", "broadcast FCoreDelegates::OnPreExit",
 						 "broadcast FCoreDelegates::OnExit", "purge objects", "shut down module LevelEditor",
 						 "shut down module ToolMenus", "shut down module TonalithEditor",
-						 "unbind FWorldDelegates::OnPreWorldInitialization (1)",
+						 "unregister style TonalithStyle", "unbind FWorldDelegates::OnPreWorldInitialization (1)",
 						 "unbind FCoreDelegates::OnFEngineLoopInitComplete (1)", "shut down module Tonalith"));
 }
 
@@ -54,8 +55,8 @@ TEST_F(Lifecycle, UnloadingInASessionRunsEveryStepAndLeavesFourBindings)
 	Driver.UnloadModule(TEXT("TonalithEditor"));
 	EXPECT_THAT(TakeTrace(),
 		ElementsAre("shut down module TonalithEditor", "unbind UEditorEngine::OnViewportClientListChanged (0)",
-			"unregister menu owner", "unbind UWorld::OnFeatureLevelChanged (1)",
-			"unbind FWorldDelegates::OnPreWorldInitialization (1)",
+			"unregister menu owner", "unregister style TonalithStyle", "unregister asset type TonalithObject",
+			"unbind UWorld::OnFeatureLevelChanged (1)", "unbind FWorldDelegates::OnPreWorldInitialization (1)",
 			"unbind FCoreDelegates::OnFEngineLoopInitComplete (1)"));
 
 	EXPECT_TRUE(GEditor->OnLevelViewportClientListChanged().IsBoundToObject(Module));
@@ -87,12 +88,14 @@ TEST_F(Lifecycle, CommandletGetsAlongWithoutEditor)
 	EXPECT_THAT(
 		TakeTrace(), ElementsAre("load library Tonalith", "start module Tonalith", "load library TonalithEditor",
 						 "start module TonalithEditor", "bind FWorldDelegates::OnPreWorldInitialization",
-						 "bind FCoreDelegates::OnFEngineLoopInitComplete"));
+						 "start module AssetTools", "register asset type TonalithObject",
+						 "bind FCoreDelegates::OnFEngineLoopInitComplete", "register style TonalithStyle"));
 	Driver.Quit();
-	EXPECT_THAT(TakeTrace(),
-		ElementsAre("editor exit", "broadcast FCoreDelegates::OnPreExit", "broadcast FCoreDelegates::OnExit",
-			"purge objects", "shut down module TonalithEditor", "unbind FWorldDelegates::OnPreWorldInitialization (1)",
-			"unbind FCoreDelegates::OnFEngineLoopInitComplete (1)", "shut down module Tonalith"));
+	EXPECT_THAT(
+		TakeTrace(), ElementsAre("editor exit", "shut down module AssetTools", "broadcast FCoreDelegates::OnPreExit",
+						 "broadcast FCoreDelegates::OnExit", "purge objects", "shut down module TonalithEditor",
+						 "unregister style TonalithStyle", "unbind FWorldDelegates::OnPreWorldInitialization (1)",
+						 "unbind FCoreDelegates::OnFEngineLoopInitComplete (1)", "shut down module Tonalith"));
 }
 
 TEST_F(Lifecycle, ExitWithPanesAndPlayUnderWayStillReachesTheModule)

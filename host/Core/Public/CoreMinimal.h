@@ -9,6 +9,7 @@
 #include "CoreGlobals.h"
 #include "Delegates/Delegate.h"
 #include "HAL/Platform.h"
+#include "HAL/UnrealMemory.h"
 #include "Internationalization/Internationalization.h"
 #include "Internationalization/Text.h"
 #include "Logging/LogMacros.h"

@@ -4,11 +4,14 @@
 #include "Editor.h"
 #include "HAL/IConsoleManager.h"
 #include "Host/Assets.h"
+#include "Host/ContentBrowser.h"
 #include "Host/Trace.h"
 #include "LevelEditor.h"
 #include "Misc/Paths.h"
 #include "RedirectMachineFolder.h"
 #include "SLevelViewport.h"
+#include "Subsystems/AssetEditorSubsystem.h"
+#include "UObject/UObjectGlobals.h"
 
 namespace
 {
@@ -106,6 +109,60 @@ void FEditorDriver::ClosePane(const FString& Key)
 void FEditorDriver::ActivatePane(const FString& Key)
 {
 	GCurrentLevelEditingViewportClient = &Pane(Key).GetLevelViewportClient();
+}
+
+void FEditorDriver::ResizePane(const FString& Key, FIntPoint Size)
+{
+	static_cast<FSceneViewport*>(Pane(Key).GetLevelViewportClient().Viewport)
+		->SetFixedViewportSize(static_cast<uint32>(Size.X), static_cast<uint32>(Size.Y));
+}
+
+FPicture FEditorDriver::TakePicture()
+{
+	RequireStarted();
+	FViewport* Viewport = GEditor->GetActiveViewport();
+	if (!Viewport)
+	{
+		throw FDriverError(TEXT("no pane is open"));
+	}
+	Viewport->Draw();
+	FPicture Picture{Viewport->GetSizeXY(), {}};
+	if (!Viewport->ReadPixels(Picture.Pixels))
+	{
+		throw FDriverError(TEXT("the pane shows nothing"));
+	}
+	return Picture;
+}
+
+UObject& FEditorDriver::CreateAsset(const FString& Label, const FString& Path)
+{
+	RequireStarted();
+	const FString Folder = FPaths::GetPath(Path);
+	FString Offered;
+	for (const FHostNewAssetEntry& Entry : HostContentBrowser::GetNewAssetMenu())
+	{
+		if (Entry.Label.ToString().Equals(Label))
+		{
+			return *HostContentBrowser::CreateNewAsset(Path.Mid(Folder.Len() + 1), Folder, *Entry.Factory);
+		}
+		Offered += TEXT(" \"") + Entry.Label.ToString() + TEXT("\"");
+	}
+	throw FDriverError(FString::Printf(TEXT("no new asset \"%s\" is offered, but:%s"), *Label, *Offered));
+}
+
+void FEditorDriver::OpenAssets(const TArray<FString>& Paths)
+{
+	RequireStarted();
+	TArray<UObject*> Assets;
+	for (const FString& Path : Paths)
+	{
+		Assets.Add(StaticLoadObject(UObject::StaticClass(), *Path));
+		if (!Assets.Last())
+		{
+			throw FDriverError(FString::Printf(TEXT("no asset \"%s\""), *Path));
+		}
+	}
+	UAssetEditorSubsystem::OpenEditorForAssets(Assets);
 }
 
 void FEditorDriver::Play(const TSharedPtr<IAssetViewport>& Pane)

@@ -4,11 +4,13 @@
 
 #include "Engine/EngineTypes.h"
 #include "LaunchEngineLoop.h"
+#include "Picture.h"
 
 #include <stdexcept>
 
 class FViewport;
 class SLevelViewport;
+class UObject;
 class UWorld;
 enum class EPlayCancellation;
 
@@ -45,6 +47,18 @@ public:
 
 	/** The pane of that key. */
 	SLevelViewport& Pane(const FString& Key) const;
+
+	/** In pixels. */
+	void ResizePane(const FString& Key, FIntPoint Size);
+
+	/** The next frame of the active pane, as a user sees it. */
+	FPicture TakePicture();
+
+	/** Chooses an entry of the content browser's menu for new assets. @param Path such as "/Game/Looks/Night" */
+	UObject& CreateAsset(const FString& Label, const FString& Path);
+
+	/** Selects assets in the content browser and opens them. @param Paths such as "/Game/Looks/Night.Night" */
+	void OpenAssets(const TArray<FString>& Paths);
 
 	/** Plays in the active pane. */
 	void PlayInPane();

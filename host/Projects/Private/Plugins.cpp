@@ -1,6 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Host/Plugins.h"
 
+#include "Interfaces/IPluginManager.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
 #include "PluginDescriptor.h"
@@ -105,4 +106,38 @@ bool HostPlugins::LoadModules(const FString& Phase, bool bIsCommandlet, FString&
 		}
 	}
 	return true;
+}
+
+namespace
+{
+class FPlugin final : public IPlugin
+{
+public:
+	explicit FPlugin(const FPluginDescriptor& InDescriptor) : Descriptor(InDescriptor) {}
+
+	FString GetBaseDir() const override { return FPaths::GetPath(Descriptor.File); }
+
+private:
+	FPluginDescriptor Descriptor;
+};
+
+class FPluginManager final : public IPluginManager
+{
+public:
+	TSharedPtr<IPlugin> FindPlugin(const FStringView Name) override
+	{
+		const FString File = TEXT("/") + FString(Name) + TEXT(".uplugin");
+		const FPluginDescriptor* Found = Plugins().FindByPredicate(
+			[&File](const FPluginDescriptor& Descriptor) { return Descriptor.File.EndsWith(File); });
+		return Found ? MakeShared<FPlugin>(*Found) : TSharedPtr<IPlugin>();
+	}
+
+	TSharedPtr<IPlugin> FindPlugin(const ANSICHAR* Name) override { return FindPlugin(FString(UTF8_TO_TCHAR(Name))); }
+};
+} // namespace
+
+IPluginManager& IPluginManager::Get()
+{
+	static FPluginManager Manager;
+	return Manager;
 }

@@ -1,5 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Editor.h"
+#include "Host/SceneRenderer.h"
 #include "LevelEditorViewport.h"
 #include "SLevelViewport.h"
 
@@ -15,6 +16,11 @@ FEditorViewportClient::~FEditorViewportClient()
 {
 	checkf(Viewport == nullptr, TEXT("The viewport of a client must be gone before the client."));
 	GEditor->RemoveViewportClients(this);
+}
+
+void FEditorViewportClient::Draw(FViewport* InViewport, FCanvas* Canvas)
+{
+	HostScene::Draw(*InViewport, *Canvas);
 }
 
 FLevelEditorViewportClient::FLevelEditorViewportClient(const TSharedPtr<SLevelViewport>& InLevelViewport)

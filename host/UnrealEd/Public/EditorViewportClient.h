@@ -13,6 +13,8 @@ public:
 	/** Fatal while a viewport is set: it would draw through a dead client. */
 	UNREALED_API ~FEditorViewportClient() override;
 
+	UNREALED_API void Draw(FViewport* InViewport, FCanvas* Canvas) override;
+
 	TSharedPtr<SEditorViewport> GetEditorViewportWidget() const { return EditorViewportWidget.Pin(); }
 
 	/** Not owned; null until the widget made it. */

@@ -14,12 +14,14 @@ public class TonalithEditor : ModuleRules
 
 		PrivateDependencyModuleNames.AddRange(new string[]
 		{
+			"AssetTools",
 			"Core",
 			"CoreUObject",
 			"EditorFramework",
 			"Engine",
 			"InputCore",
 			"LevelEditor",
+			"Projects",
 			"Slate",
 			"SlateCore",
 			"ToolMenus",

@@ -79,7 +79,7 @@ public:
 		}
 		// Out of the map before it dies: its destructor may ask the map.
 		const auto Place = Pairs.begin() + static_cast<std::ptrdiff_t>(Removed);
-		const TPair<KeyType, ValueType> Doomed = std::move(*Place);
+		[[maybe_unused]] const TPair<KeyType, ValueType> Doomed = std::move(*Place);
 		Pairs.erase(Place);
 		return 1;
 	}

@@ -3,6 +3,8 @@
 
 #include "HAL/Platform.h"
 
+#include <cstring>
+
 /** 8 bits a channel, in memory as blue, green, red, alpha. Uninitialised unless given values. */
 struct FColor
 {
@@ -10,6 +12,14 @@ struct FColor
 
 	FColor() {}
 	constexpr FColor(uint8 InR, uint8 InG, uint8 InB, uint8 InA = 255) : B(InB), G(InG), R(InR), A(InA) {}
+
+	/** The four bytes as they lie in memory. */
+	uint32 DWColor() const
+	{
+		uint32 Word;
+		std::memcpy(&Word, this, sizeof Word);
+		return Word;
+	}
 
 	friend bool operator==(const FColor&, const FColor&) = default;
 

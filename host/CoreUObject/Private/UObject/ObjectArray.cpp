@@ -1,5 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "UObject/UObjectGlobals.h"
+#include "UObject/UObjectHash.h"
 #include "UObject/WeakObjectPtr.h"
 
 #include "Modules/ModuleManager.h"
@@ -101,6 +102,18 @@ UObject* HostObjects::FindByName(const UObject* Outer, FName Name)
 		}
 	}
 	return nullptr;
+}
+
+void GetDerivedClasses(const UClass* ClassToLookFor, TArray<UClass*>& Results)
+{
+	for (const FObjectItem& Item : Items())
+	{
+		UClass* Class = dynamic_cast<UClass*>(Item.Object);
+		if (Class && Class != ClassToLookFor && Class->IsChildOf(ClassToLookFor))
+		{
+			Results.Add(Class);
+		}
+	}
 }
 
 void CollectGarbage()

@@ -10,6 +10,8 @@ public:
 	/** Sent when a game viewport and its client exist. */
 	static FSimpleMulticastDelegate& OnViewportCreated() { return CreatedDelegate; }
 
+	void Draw(FViewport* InViewport, FCanvas* SceneCanvas) override;
+
 	void SetViewport(FViewport* InViewport) { Viewport = InViewport; }
 
 	/** Not owned. */

@@ -17,7 +17,17 @@ class FSceneViewport
 	, public FViewport
 {
 public:
-	explicit FSceneViewport(FViewportClient* InViewportClient) : FViewport(InViewportClient) {}
+	explicit FSceneViewport(FViewportClient* InViewportClient) : FViewport(InViewportClient)
+	{
+		SetFixedViewportSize(320, 180);
+	}
 
 	FViewport* GetViewport() override { return this; }
+
+	/** In pixels. */
+	void SetFixedViewportSize(uint32 NewViewportSizeX, uint32 NewViewportSizeY)
+	{
+		SizeX = NewViewportSizeX;
+		SizeY = NewViewportSizeY;
+	}
 };

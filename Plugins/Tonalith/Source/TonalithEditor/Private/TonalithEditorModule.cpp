@@ -13,12 +13,16 @@ void FTonalithEditorModule::StartupModule()
 	// Before anything that shows a text.
 	LoadEditorStrings();
 	BindWorldInitialization();
+	RegisterAssetTypes();
 	BindEngineLoop();
+	InitializeStyle();
 }
 
 void FTonalithEditorModule::ShutdownModule()
 {
 	UnbindEditor();
+	ReleaseStyle();
+	UnregisterAssetTypes();
 	ForgetEditorWorld();
 	UnbindWorldInitialization();
 	UnbindEngineLoop();

@@ -6,11 +6,13 @@
 #include "CoreMinimal.h"
 #include "Engine/World.h"
 #include "Modules/ModuleInterface.h"
+#include "Styling/SlateStyle.h"
 #include "UObject/WeakObjectPtr.h"
 
 class FLevelEditorViewportClient;
 class FViewport;
 class FViewportClient;
+class IAssetTypeActions;
 struct FTonalithDisplayConfiguration;
 
 DECLARE_LOG_CATEGORY_EXTERN(LogTonalithEditor, Log, All);
@@ -28,6 +30,12 @@ private:
 	void ForgetEditorWorld();
 	void OnPreWorldInitialization(UWorld* World, const UWorld::InitializationValues Values);
 	void OnFeatureLevelChanged(ERHIFeatureLevel::Type FeatureLevel);
+
+	// Looks as assets: their type in the content browser, and their icons.
+	void RegisterAssetTypes();
+	void UnregisterAssetTypes();
+	void InitializeStyle();
+	void ReleaseStyle();
 
 	// The editor engine: exists once the engine loop is complete, which never happens in commandlets.
 	void BindEngineLoop();
@@ -62,6 +70,9 @@ private:
 
 	/** The record of the viewport that was active when play was about to begin; the runtime module owns it. */
 	FTonalithDisplayConfiguration* PendingPIEConfiguration = nullptr;
+
+	TArray<TSharedRef<IAssetTypeActions>> RegisteredAssetTypeActions;
+	TUniquePtr<FSlateStyleSet> Style;
 
 	FWeakObjectPtr EditorWorld;
 

@@ -1,0 +1,26 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// The types of assets, and how assets are made.
+#pragma once
+
+#include "IAssetTypeActions.h"
+
+class UFactory;
+
+class IAssetTools
+{
+public:
+	virtual ~IAssetTools() = default;
+
+	/** What was registered for the same class before is replaced. */
+	virtual void RegisterAssetTypeActions(const TSharedRef<IAssetTypeActions>& NewActions) = 0;
+
+	/** Removes what is registered for the actions' class, whoever registered it. */
+	virtual void UnregisterAssetTypeActions(const TSharedRef<IAssetTypeActions>& ActionsToRemove) = 0;
+
+	/** The actions of the class or of its nearest base that has some; invalid when there are none. */
+	virtual TWeakPtr<IAssetTypeActions> GetAssetTypeActionsForClass(const UClass* Class) const = 0;
+
+	/** Makes an asset of that name in a folder such as "/Game/Looks". @return null when the factory makes none */
+	virtual UObject* CreateAsset(const FString& AssetName, const FString& PackagePath, UClass* AssetClass,
+		UFactory* Factory, FName CallingContext = NAME_None) = 0;
+};

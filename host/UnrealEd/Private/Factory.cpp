@@ -1,0 +1,13 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "Factories/Factory.h"
+
+#include "UObject/GeneratedCppIncludes.h"
+
+UFactory::UFactory(const FObjectInitializer& ObjectInitializer) : UObject(ObjectInitializer) {}
+
+UClass* UFactory::StaticClass()
+{
+	static UClass* const Class = HostReflection::NewClass(TEXT("/Script/UnrealEd"), TEXT("Factory"), sizeof(UFactory),
+		CLASS_Native | CLASS_Abstract, TEXT(""), nullptr, UObject::StaticClass());
+	return Class;
+}

@@ -1,0 +1,162 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// Assets, their types, style sets and drawn viewports, with types of the tests' own.
+#include "AssetToolsModule.h"
+#include "AssetTypeActions_Base.h"
+#include "EditorTest.h"
+#include "Host/Assets.h"
+#include "Host/SceneRenderer.h"
+#include "Misc/Paths.h"
+#include "Modules/ModuleManager.h"
+#include "Probe.h"
+#include "ProbeSettings.h"
+#include "Slate/SceneViewport.h"
+#include "Styling/SlateStyleRegistry.h"
+#include "Subsystems/AssetEditorSubsystem.h"
+#include "UObject/UObjectGlobals.h"
+
+using testing::ElementsAre;
+using testing::ExitedWithCode;
+using testing::HasSubstr;
+
+namespace
+{
+/** Writes down what it is asked to open. */
+class FListingActions : public FAssetTypeActions_Base
+{
+public:
+	FListingActions(UClass* InClass, FLines& InOpened) : Class(InClass), Opened(InOpened) {}
+
+	FText GetName() const override { return FText::FromString(TEXT("Thing")); }
+
+	UClass* GetSupportedClass() const override { return Class; }
+
+	FColor GetTypeColor() const override { return FColor::White; }
+
+	uint32 GetCategories() override { return EAssetTypeCategories::Misc; }
+
+	void OpenAssetEditor(const TArray<UObject*>& Objects, TSharedPtr<IToolkitHost>) override
+	{
+		std::string Line;
+		for (const UObject* Object : Objects)
+		{
+			Line += (Line.empty() ? "" : "+") + std::string(TCHAR_TO_UTF8(*Object->GetName()));
+		}
+		Opened.push_back(Line);
+	}
+
+private:
+	UClass* Class;
+	FLines& Opened;
+};
+} // namespace
+
+class Assets : public FEditorTest
+{
+protected:
+	static IAssetTools& Tools() { return FModuleManager::LoadModuleChecked<FAssetToolsModule>("AssetTools").Get(); }
+
+	static UObject* Load(const TCHAR* Path) { return StaticLoadObject(UObject::StaticClass(), Path); }
+
+	FLines Opened;
+};
+
+TEST_F(Assets, LieInTheContentFolderUntilDeleted)
+{
+	for (const TCHAR* Path : {TEXT("/Game/Things/Deep/B.B"), TEXT("/Game/A.A")})
+	{
+		HostAssets::Write(Options.ProjectFolder, TEXT("/Script/Probe.ProbeSettings"), Path);
+	}
+	HostAssets::Write(Options.ProjectFolder, TEXT("/Script/Gone.Gone"), TEXT("/Game/C.C"));
+	Driver.Start(Options);
+	FLines Paths;
+	for (const FAssetData& Asset : HostAssets::GetAll())
+	{
+		Paths.push_back(TCHAR_TO_UTF8(*(Asset.PackagePath.ToString() + TEXT(" ") + Asset.GetObjectPathString())));
+	}
+	EXPECT_THAT(Paths, ElementsAre("/Game /Game/A.A", "/Game /Game/C.C", "/Game/Things/Deep /Game/Things/Deep/B.B"));
+	EXPECT_EQ(Load(TEXT("/Game/C.C")), nullptr);
+	UObject* A = Load(TEXT("/Game/A.A"));
+	ASSERT_NE(A, nullptr);
+	EXPECT_EQ(FAssetData(A), HostAssets::GetAll()[0]);
+	EXPECT_EQ(FAssetData(A).GetClass(), A->GetClass());
+	EXPECT_EQ(FAssetData(A).GetAsset(), A);
+	EXPECT_FALSE(FAssetData(nullptr).IsValid());
+	HostAssets::Delete(*A);
+	EXPECT_EQ(HostAssets::GetAll().Num(), 2);
+	EXPECT_EQ(Load(TEXT("/Game/A.A")), nullptr);
+	Driver.Quit();
+}
+
+TEST_F(Assets, AreOpenedTogetherOnlyWhenOfOneClass)
+{
+	for (const TCHAR* Path : {TEXT("/Game/A.A"), TEXT("/Game/B.B")})
+	{
+		HostAssets::Write(Options.ProjectFolder, TEXT("/Script/Probe.ProbeSettings"), Path);
+	}
+	Driver.Start(Options);
+	UObject* A = Load(TEXT("/Game/A.A"));
+	UObject* B = Load(TEXT("/Game/B.B"));
+	const TSharedRef<IAssetTypeActions> Any = MakeShared<FListingActions>(UObject::StaticClass(), Opened);
+	FLines Replaced;
+	const TSharedRef<IAssetTypeActions> First = MakeShared<FListingActions>(A->GetClass(), Replaced);
+	const TSharedRef<IAssetTypeActions> Second = MakeShared<FListingActions>(A->GetClass(), Opened);
+	Tools().RegisterAssetTypeActions(Any);
+	Tools().RegisterAssetTypeActions(First);
+	Tools().RegisterAssetTypeActions(Second);
+	EXPECT_EQ(Tools().GetAssetTypeActionsForClass(A->GetClass()).Pin(), Second);
+	EXPECT_EQ(Tools().GetAssetTypeActionsForClass(UPackage::StaticClass()).Pin(), Any);
+
+	UAssetEditorSubsystem::OpenEditorForAssets({nullptr, A, B, A});
+	UAssetEditorSubsystem::OpenEditorForAssets({A, A->GetPackage(), B});
+	EXPECT_THAT(Opened, ElementsAre("A+B", "A", "/Game/A", "B"));
+	EXPECT_THAT(Replaced, ElementsAre());
+	Tools().UnregisterAssetTypeActions(First);
+	EXPECT_EQ(Tools().GetAssetTypeActionsForClass(A->GetClass()).Pin(), Any);
+	Driver.Quit();
+}
+
+TEST_F(Assets, TwoStyleSetsOfOneNameAreFatal)
+{
+	const FSlateStyleSet Style("Probe");
+	FSlateStyleRegistry::RegisterSlateStyle(Style);
+	FSlateStyleRegistry::UnRegisterSlateStyle(Style);
+	FSlateStyleRegistry::UnRegisterSlateStyle(Style);
+	FSlateStyleRegistry::RegisterSlateStyle(Style);
+	EXPECT_EXIT(
+		FSlateStyleRegistry::RegisterSlateStyle(FSlateStyleSet("Probe")), ExitedWithCode(3), HasSubstr("Probe"));
+	FSlateStyleRegistry::UnRegisterSlateStyle(Style);
+}
+
+TEST_F(Assets, ViewportsReadBackTheChartThatWasDrawn)
+{
+	Driver.Start(Options);
+	Driver.OpenPane(TEXT("A"));
+	Driver.ResizePane(TEXT("A"), {16, 8});
+	const FPicture Picture = Driver.TakePicture();
+	ASSERT_EQ(Picture.Size, FIntPoint(16, 8));
+	ASSERT_EQ(Picture.Pixels.Num(), 16 * 8);
+	// Red is the hue on the left; the patches begin with the three primaries; the ramp ends in white.
+	EXPECT_EQ(Picture.Pixels[0], FColor(255, 0, 0, 0));
+	EXPECT_EQ(Picture.Pixels[4 * 16 + 2], FColor(0, 255, 0, 0));
+	EXPECT_EQ(Picture.Pixels[4 * 16 + 15], FColor(87, 108, 67, 0));
+	EXPECT_EQ(Picture.Pixels[7 * 16], FColor(0, 0, 0, 0));
+	EXPECT_EQ(Picture.Pixels[7 * 16 + 15], FColor(255, 255, 255, 0));
+
+	const FString File = FPaths::Combine(Options.ProjectFolder, TEXT("Pictures/Chart.png"));
+	FPicture Loaded;
+	EXPECT_FALSE(LoadPicture(File, Loaded));
+	EXPECT_TRUE(SavePicture(Picture, File));
+	EXPECT_TRUE(LoadPicture(File, Loaded));
+	EXPECT_TRUE(IsSamePicture(Picture, Loaded));
+	Loaded.Pixels[5].G ^= 1;
+	EXPECT_FALSE(IsSamePicture(Picture, Loaded));
+
+	TakeTrace();
+	FSceneViewport Undrawn(nullptr);
+	Undrawn.SetFixedViewportSize(0, 0);
+	Undrawn.Draw();
+	TArray<FColor> Pixels;
+	EXPECT_FALSE(Undrawn.ReadPixels(Pixels));
+	EXPECT_THAT(TakeTrace(), ElementsAre("read pixels"));
+	Driver.Quit();
+}
