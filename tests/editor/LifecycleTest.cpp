@@ -22,8 +22,9 @@ TEST_F(Lifecycle, StartBindsWorldsThenTheEngineLoopThenTheEditor)
 		ElementsAre("load library Tonalith", "start module Tonalith", "load library TonalithEditor",
 			"start module TonalithEditor", "bind FWorldDelegates::OnPreWorldInitialization",
 			"bind FCoreDelegates::OnFEngineLoopInitComplete", "make the editor engine", "start module AssetTools",
-			"start module ToolMenus", "start module LevelEditor", "broadcast FWorldDelegates::OnPreWorldInitialization",
-			"bind UWorld::OnFeatureLevelChanged", "broadcast FCoreDelegates::OnFEngineLoopInitComplete",
+			"start module ToolMenus", "start module LevelEditor", "register menu LevelEditor.LevelViewportToolBar.View",
+			"broadcast FWorldDelegates::OnPreWorldInitialization", "bind UWorld::OnFeatureLevelChanged",
+			"broadcast FCoreDelegates::OnFEngineLoopInitComplete",
 			"bind UEditorEngine::OnLevelViewportClientListChanged", "bind FEditorDelegates::PreBeginPIE",
 			"bind FEditorDelegates::PostPIEStarted", "bind UGameViewportClient::CreatedDelegate"));
 	Driver.Quit();

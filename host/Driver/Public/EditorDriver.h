@@ -4,6 +4,7 @@
 
 #include "Engine/EngineTypes.h"
 #include "LaunchEngineLoop.h"
+#include "MenuDriver.h"
 
 #include <stdexcept>
 
@@ -57,6 +58,9 @@ public:
 
 	void EndPlay();
 
+	/** The menus, a frame after whatever was done before. */
+	const FMenuDriver& Menus();
+
 	/** Types a line into the console. */
 	void Console(const FString& Line);
 
@@ -71,5 +75,6 @@ private:
 	void Play(const TSharedPtr<class IAssetViewport>& Pane);
 
 	FEngineLoop Loop;
+	FMenuDriver MenuDriver;
 	bool bIsRunning = false;
 };
