@@ -202,6 +202,13 @@ void FEditorDriver::EndPlay()
 	Loop.Tick();
 }
 
+const FMenuDriver& FEditorDriver::Menus()
+{
+	RequireStarted();
+	Loop.Tick();
+	return MenuDriver;
+}
+
 void FEditorDriver::Console(const FString& Line)
 {
 	RequireStarted();

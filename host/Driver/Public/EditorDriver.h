@@ -4,6 +4,7 @@
 
 #include "Engine/EngineTypes.h"
 #include "LaunchEngineLoop.h"
+#include "MenuDriver.h"
 #include "Picture.h"
 
 #include <stdexcept>
@@ -71,6 +72,9 @@ public:
 
 	void EndPlay();
 
+	/** The menus, a frame after whatever was done before. */
+	const FMenuDriver& Menus();
+
 	/** Types a line into the console. */
 	void Console(const FString& Line);
 
@@ -85,5 +89,6 @@ private:
 	void Play(const TSharedPtr<class IAssetViewport>& Pane);
 
 	FEngineLoop Loop;
+	FMenuDriver MenuDriver;
 	bool bIsRunning = false;
 };

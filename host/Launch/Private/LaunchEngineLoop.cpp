@@ -12,6 +12,7 @@
 #include "LevelEditor.h"
 #include "Misc/CoreDelegates.h"
 #include "Misc/Paths.h"
+#include "ToolMenus.h"
 
 #include <exception>
 
@@ -115,6 +116,7 @@ void FEngineLoop::Tick() noexcept
 	if (GEditor)
 	{
 		GEditor->Tick();
+		UToolMenus::Get()->Tick();
 	}
 }
 

@@ -2,8 +2,21 @@
 #include "LevelEditor.h"
 
 #include "SLevelViewport.h"
+#include "ToolMenus.h"
 
 IMPLEMENT_HOST_MODULE(FLevelEditorModule, LevelEditor)
+
+void FLevelEditorModule::StartupModule()
+{
+	const FToolMenuOwnerScoped Owner(this);
+	FToolMenuSection& Section = UToolMenus::Get()
+									->RegisterMenu(SLevelViewport::ViewMenuName)
+									->AddSection("LevelViewportView", FText::FromString(TEXT("View")));
+	Section.AddMenuEntry("ToggleRealtime", FText::FromString(TEXT("Realtime")), FText(), FSlateIcon(),
+		FUIAction(FExecuteAction::CreateLambda([this] { bIsRealtime = !bIsRealtime; }), FCanExecuteAction(),
+			FIsActionChecked::CreateLambda([this] { return bIsRealtime; })),
+		EUserInterfaceActionType::ToggleButton);
+}
 
 TSharedPtr<IAssetViewport> FLevelEditorModule::GetFirstActiveViewport() const
 {

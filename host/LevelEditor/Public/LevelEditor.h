@@ -10,6 +10,9 @@ class SLevelViewport;
 class LEVELEDITOR_API FLevelEditorModule : public IModuleInterface
 {
 public:
+	/** Registers the menus of the panes. */
+	void StartupModule() override;
+
 	/** The pane of the current client, else the first pane, else null. */
 	virtual TSharedPtr<IAssetViewport> GetFirstActiveViewport() const;
 
@@ -34,4 +37,7 @@ public:
 
 private:
 	TArray<TSharedPtr<SLevelViewport>> Panes;
+
+	/** What the "View" menu shows; it changes nothing else. */
+	bool bIsRealtime = true;
 };

@@ -14,6 +14,12 @@ class LEVELEDITOR_API SLevelViewport
 public:
 	void Construct(const FAssetEditorViewportConstructionArgs& InConstructionArgs);
 
+	/** The name of the menu "View" of every pane's toolbar. */
+	static constexpr const TCHAR* ViewMenuName = TEXT("LevelEditor.LevelViewportToolBar.View");
+
+	/** Opens that menu. */
+	void OpenViewMenu();
+
 	FName GetConfigKey() const { return ConfigKey; }
 
 	FLevelEditorViewportClient& GetLevelViewportClient() const

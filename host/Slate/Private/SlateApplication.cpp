@@ -1,22 +1,87 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Framework/Application/SlateApplication.h"
 
+#include "Host/Trace.h"
+
 namespace
 {
-bool bIsCreated = false;
-}
+/** Lives on at the end of a process that did not exit in order: its widgets could no longer die cleanly then. */
+TSharedPtr<FSlateApplication>& CurrentApplication = *new TSharedPtr<FSlateApplication>();
+} // namespace
 
 void FSlateApplication::Create()
 {
-	bIsCreated = true;
+	CurrentApplication = MakeShared<FSlateApplication>();
 }
 
 void FSlateApplication::Shutdown()
 {
-	bIsCreated = false;
+	Get().DismissAllMenus();
+	CurrentApplication.Reset();
 }
 
 bool FSlateApplication::IsInitialized()
 {
-	return bIsCreated;
+	return CurrentApplication.IsValid();
+}
+
+FSlateApplication& FSlateApplication::Get()
+{
+	check(CurrentApplication.IsValid());
+	check(IsInGameThread());
+	return *CurrentApplication;
+}
+
+void FSlateApplication::PushMenu(FName Name, const TSharedRef<SWidget>& Parent, const FMakeMenuContent& MakeContent)
+{
+	DismissDownTo(DepthOf(*Parent));
+	const TSharedRef<SWidget> Content = MakeContent.Execute();
+	HostTrace::Line(TEXT("open menu %s"), *Name.ToString());
+	OpenMenus.Add({Name, Parent, Content});
+}
+
+void FSlateApplication::DismissAllMenus()
+{
+	DismissDownTo(0);
+}
+
+void FSlateApplication::DismissMenuByWidget(const TSharedRef<SWidget>& InWidgetInMenu)
+{
+	if (const int32 Depth = DepthOf(*InWidgetInMenu))
+	{
+		DismissDownTo(Depth - 1);
+	}
+}
+
+void FSlateApplication::DismissMenusBelow(const SWidget& Widget)
+{
+	if (const int32 Depth = DepthOf(Widget))
+	{
+		DismissDownTo(Depth);
+	}
+}
+
+int32 FSlateApplication::DepthOf(const SWidget& Widget) const
+{
+	for (int32 Depth = OpenMenus.Num(); Depth > 0; --Depth)
+	{
+		bool bIsInside = false;
+		OpenMenus[Depth - 1].Content->ForEachWidget([&](SWidget& Each) { bIsInside |= &Each == &Widget; });
+		if (bIsInside)
+		{
+			return Depth;
+		}
+	}
+	return 0;
+}
+
+void FSlateApplication::DismissDownTo(int32 Count)
+{
+	while (OpenMenus.Num() > Count)
+	{
+		// Out of the list before its widgets die: they may look at it.
+		const FOpenMenu Closing = OpenMenus.Last();
+		OpenMenus.RemoveAt(OpenMenus.Num() - 1);
+		HostTrace::Line(TEXT("close menu %s"), *Closing.Name.ToString());
+	}
 }

@@ -6,7 +6,9 @@
 #include "LevelEditorViewport.h"
 #include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
+#include "ProbeMenu.h"
 #include "SLevelViewport.h"
+#include "ToolMenus.h"
 #include "UObject/UObjectGlobals.h"
 
 #include <stdexcept>
@@ -29,6 +31,7 @@ public:
 			YesNo(GEditor != nullptr), YesNo(UObjectInitialized()),
 			YesNo(FModuleManager::Get().IsModuleLoaded("Probe")), GetDefault<UProbeSettings>()->Entries.Num());
 		FModuleManager::Get().LoadModuleChecked("AssetTools");
+		RegisterProbeMenu(*this);
 		FWorldDelegates::OnPreWorldInitialization.AddRaw(this, &FProbeModule::OnWorld);
 		FCoreDelegates::OnFEngineLoopInitComplete.AddRaw(this, &FProbeModule::OnEngineLoop);
 		FCoreDelegates::OnPreExit.AddRaw(this, &FProbeModule::OnPreExit);
@@ -47,6 +50,7 @@ public:
 
 	void ShutdownModule() override
 	{
+		UToolMenus::UnregisterOwner(this);
 		UE_LOG(LogProbe, Display, TEXT("shut-down: editor %s, objects %s, AssetTools %s"), YesNo(GEditor != nullptr),
 			YesNo(UObjectInitialized()), YesNo(FModuleManager::Get().IsModuleLoaded("AssetTools")));
 	}

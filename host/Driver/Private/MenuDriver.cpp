@@ -1,0 +1,128 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "MenuDriver.h"
+
+#include "Editor.h"
+#include "EditorDriver.h"
+#include "Framework/Application/SlateApplication.h"
+#include "Host/MenuRow.h"
+#include "LevelEditor.h"
+#include "SLevelViewport.h"
+
+namespace
+{
+/** From the top of a menu to its bottom. */
+TArray<TSharedRef<SMenuRow>> RowsOf(SWidget& Menu)
+{
+	TArray<TSharedRef<SMenuRow>> Rows;
+	Menu.ForEachWidget(
+		[&Rows](SWidget& Widget)
+		{
+			if (dynamic_cast<SMenuRow*>(&Widget))
+			{
+				Rows.Add(StaticCastSharedRef<SMenuRow>(Widget.AsShared()));
+			}
+		});
+	return Rows;
+}
+
+/** The first row of that kind and name that would do something when clicked. */
+TSharedRef<SMenuRow> FindRow(const FString& Name, const TCHAR* What, std::initializer_list<EMenuRow> Kinds)
+{
+	const TArray<FOpenMenu>& Menus = FSlateApplication::Get().GetOpenMenus();
+	FString Others;
+	for (int32 Index = Menus.Num(); Index-- > 0;)
+	{
+		for (const TSharedRef<SMenuRow>& Row : RowsOf(*Menus[Index].Content))
+		{
+			if (!TArray<EMenuRow>(Kinds).Contains(Row->GetKind()) || !Row->IsClickable())
+			{
+				continue;
+			}
+			if (Row->GetName() == FName(Name))
+			{
+				return Row;
+			}
+			Others += (Others.IsEmpty() ? TEXT("") : TEXT(", ")) + Row->GetName().ToString();
+		}
+	}
+	throw FDriverError(FString::Printf(TEXT("no %s \"%s\" can be clicked in the open menus, only: %s"), What, *Name,
+		Others.IsEmpty() ? TEXT("nothing") : *Others));
+}
+
+FString LineOf(const SMenuRow& Row)
+{
+	const FString Label = Row.GetLabel().ToString();
+	switch (Row.GetKind())
+	{
+	case EMenuRow::Heading:
+		return Label;
+	case EMenuRow::Toggle:
+		return (Row.IsChecked() ? TEXT("  [x] ") : TEXT("  [ ] ")) + Label;
+	case EMenuRow::SubMenu:
+		return TEXT("  ") + Label + TEXT(" >");
+	default:
+		return TEXT("  ") + Label;
+	}
+}
+
+/** The menu at that place of the open ones, and what was opened from it. */
+FString TextOf(int32 Index, const FString& Indent)
+{
+	const TArray<FOpenMenu>& Menus = FSlateApplication::Get().GetOpenMenus();
+	const TSharedPtr<SWidget> Opener = Menus.IsValidIndex(Index + 1) ? Menus[Index + 1].Parent.Pin() : nullptr;
+	FString Text;
+	for (const TSharedRef<SMenuRow>& Row : RowsOf(*Menus[Index].Content))
+	{
+		if (const FString Line = LineOf(*Row); !Line.IsEmpty())
+		{
+			Text += Indent + Line + TEXT("\n");
+		}
+		if (Opener.Get() == &*Row)
+		{
+			Text += TextOf(Index + 1, Indent + TEXT("    "));
+		}
+	}
+	return Text;
+}
+} // namespace
+
+void FMenuDriver::OpenViewMenu() const
+{
+	const TSharedPtr<IAssetViewport> Pane =
+		FModuleManager::GetModuleChecked<FLevelEditorModule>("LevelEditor").GetFirstActiveViewport();
+	if (!Pane.IsValid())
+	{
+		throw FDriverError(TEXT("no pane is open that has a menu"));
+	}
+	StaticCastSharedPtr<SLevelViewport>(Pane)->OpenViewMenu();
+}
+
+void FMenuDriver::OpenSubMenu(const FString& Entry) const
+{
+	FindRow(Entry, TEXT("sub-menu"), {EMenuRow::SubMenu})->Click();
+}
+
+void FMenuDriver::Click(const FString& Entry) const
+{
+	FindRow(Entry, TEXT("entry"), {EMenuRow::Button, EMenuRow::Toggle})->Click();
+}
+
+void FMenuDriver::ClickCheckBox(const FString& Entry) const
+{
+	FindRow(Entry, TEXT("check box"), {EMenuRow::Toggle})->ClickCheckBox();
+}
+
+void FMenuDriver::ChooseAsset(const FString& Name) const
+{
+	FindRow(Name, TEXT("asset"), {EMenuRow::Asset})->Click();
+}
+
+void FMenuDriver::CloseAll() const
+{
+	FSlateApplication::Get().DismissAllMenus();
+}
+
+FString FMenuDriver::Text() const
+{
+	return FSlateApplication::Get().GetOpenMenus().IsEmpty() ? FString() : TextOf(0, FString());
+}

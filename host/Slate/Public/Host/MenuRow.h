@@ -1,0 +1,63 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// A row of a menu, with what a user can see of it and do with it.
+#pragma once
+
+#include "Framework/Application/SlateApplication.h"
+#include "Framework/Commands/UIAction.h"
+#include "Widgets/DeclarativeSyntaxSupport.h"
+#include "Widgets/SWidget.h"
+
+enum class EMenuRow : uint8
+{
+	/** Only text. */
+	Heading,
+	Button,
+
+	/** A button behind a check box. */
+	Toggle,
+	SubMenu,
+
+	/** An asset to choose. */
+	Asset
+};
+
+class SMenuRow : public SWidget
+{
+public:
+	SLATE_BEGIN_ARGS(SMenuRow) : _Kind(EMenuRow::Button), _bClosesMenus(false) {}
+	SLATE_ARGUMENT(EMenuRow, Kind)
+	SLATE_ARGUMENT(FName, Name)
+	SLATE_ARGUMENT(TAttribute<FText>, Label)
+	SLATE_ARGUMENT(FUIAction, Action)
+
+	/** Whether a click closes all menus before the action runs. */
+	SLATE_ARGUMENT(bool, bClosesMenus)
+
+	/** Makes what a sub-menu opens, and the name that it opens under. */
+	SLATE_ARGUMENT(FMakeMenuContent, MakeSubMenu)
+	SLATE_ARGUMENT(FName, SubMenuName)
+	SLATE_END_ARGS()
+
+	void Construct(const FArguments& InArgs) { Row = InArgs; }
+
+	EMenuRow GetKind() const { return Row._Kind; }
+
+	/** Of the entry or the asset. */
+	FName GetName() const { return Row._Name; }
+
+	FText GetLabel() const { return Row._Label.Get(); }
+
+	bool IsChecked() const { return Row._Action.IsChecked(); }
+
+	/** Whether a click would do something. */
+	SLATE_API bool IsClickable() const;
+
+	/** The row may be gone afterwards. */
+	SLATE_API void Click();
+
+	/** Leaves the menus open. */
+	void ClickCheckBox() { Row._Action.Execute(); }
+
+private:
+	FArguments Row;
+};

@@ -1,0 +1,69 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// Panels that lay their children out in a row.
+#pragma once
+
+#include "Widgets/DeclarativeSyntaxSupport.h"
+#include "Widgets/SWidget.h"
+
+template <typename SlotType>
+class TBoxPanel : public SWidget
+{
+public:
+	using FSlot = SlotType;
+
+	struct FArguments
+	{
+		FArguments& operator+(const FSlot& Slot)
+		{
+			Slots.Add(Slot);
+			return *this;
+		}
+
+		TArray<FSlot> Slots;
+	};
+
+	static FSlot Slot() { return {}; }
+
+	void Construct(const FArguments& InArgs) { Slots = InArgs.Slots; }
+
+	TArray<const FSlotBase*> GetSlots() const override
+	{
+		TArray<const FSlotBase*> Result;
+		for (const FSlot& Each : Slots)
+		{
+			Result.Add(&Each);
+		}
+		return Result;
+	}
+
+private:
+	TArray<FSlot> Slots;
+};
+
+struct FVerticalBoxSlot : TSlot<FVerticalBoxSlot>
+{
+	FVerticalBoxSlot& AutoHeight()
+	{
+		bIsAutoSized = true;
+		return *this;
+	}
+};
+
+struct FHorizontalBoxSlot : TSlot<FHorizontalBoxSlot>
+{
+	FHorizontalBoxSlot& AutoWidth()
+	{
+		bIsAutoSized = true;
+		return *this;
+	}
+};
+
+/** From top to bottom. */
+class SVerticalBox : public TBoxPanel<FVerticalBoxSlot>
+{
+};
+
+/** From left to right. */
+class SHorizontalBox : public TBoxPanel<FHorizontalBoxSlot>
+{
+};

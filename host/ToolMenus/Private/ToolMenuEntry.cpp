@@ -1,0 +1,38 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "ToolMenuEntry.h"
+
+#include "ToolMenus.h"
+
+FToolMenuEntry FToolMenuEntry::InitMenuEntry(const FName InName, const TAttribute<FText>& InLabel,
+	const TAttribute<FText>& InToolTip, const TAttribute<FSlateIcon>&, const FToolUIActionChoice& InAction,
+	const EUserInterfaceActionType InUserInterfaceActionType)
+{
+	FToolMenuEntry Entry;
+	Entry.Name = InName;
+	Entry.Owner = UToolMenus::Get()->CurrentOwner();
+	Entry.Label = InLabel;
+	Entry.ToolTip = InToolTip;
+	Entry.Action = InAction;
+	Entry.UserInterfaceActionType = InUserInterfaceActionType;
+	return Entry;
+}
+
+FToolMenuEntry FToolMenuEntry::InitSubMenu(const FName InName, const TAttribute<FText>& InLabel,
+	const TAttribute<FText>& InToolTip, const FNewToolMenuChoice& InMakeMenu, const FToolUIActionChoice& InAction,
+	const EUserInterfaceActionType InUserInterfaceActionType, bool, const TAttribute<FSlateIcon>& InIcon,
+	const bool bShouldCloseWindowAfterMenuSelection)
+{
+	FToolMenuEntry Entry = InitMenuEntry(InName, InLabel, InToolTip, InIcon, InAction, InUserInterfaceActionType);
+	Entry.bIsSubMenu = true;
+	Entry.ConstructMenu = InMakeMenu;
+	Entry.bShouldCloseWindowAfterMenuSelection = bShouldCloseWindowAfterMenuSelection;
+	return Entry;
+}
+
+FToolMenuEntry FToolMenuEntry::InitWidget(const FName InName, const TSharedRef<SWidget>& InWidget, const FText& Label,
+	bool, bool, bool, const FText& InToolTipText)
+{
+	FToolMenuEntry Entry = InitMenuEntry(InName, Label, InToolTipText, FSlateIcon(), FToolUIActionChoice());
+	Entry.Widget = InWidget;
+	return Entry;
+}

@@ -1,0 +1,45 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Framework/Commands/UICommandInfo.h"
+#include "Misc/Attribute.h"
+#include "Textures/SlateIcon.h"
+#include "ToolMenuDelegates.h"
+#include "ToolMenuOwner.h"
+#include "Widgets/SWidget.h"
+
+/** An entry of a menu. Its owner is the one at the time of its making. */
+struct TOOLMENUS_API FToolMenuEntry
+{
+	static FToolMenuEntry InitMenuEntry(const FName InName, const TAttribute<FText>& InLabel,
+		const TAttribute<FText>& InToolTip, const TAttribute<FSlateIcon>& InIcon, const FToolUIActionChoice& InAction,
+		const EUserInterfaceActionType InUserInterfaceActionType = EUserInterfaceActionType::Button);
+
+	/** In the host every sub-menu opens by a click, whatever the flag says. */
+	static FToolMenuEntry InitSubMenu(const FName InName, const TAttribute<FText>& InLabel,
+		const TAttribute<FText>& InToolTip, const FNewToolMenuChoice& InMakeMenu, const FToolUIActionChoice& InAction,
+		const EUserInterfaceActionType InUserInterfaceActionType, bool bInOpenSubMenuOnClick = false,
+		const TAttribute<FSlateIcon>& InIcon = TAttribute<FSlateIcon>(),
+		const bool bShouldCloseWindowAfterMenuSelection = true);
+
+	/** Keeps the widget alive. How it is laid out and searched is not kept. */
+	static FToolMenuEntry InitWidget(const FName InName, const TSharedRef<SWidget>& InWidget, const FText& Label,
+		bool bNoIndent = false, bool bSearchable = true, bool bNoPadding = false, const FText& InToolTipText = FText());
+
+	bool IsSubMenu() const { return bIsSubMenu; }
+
+	FName Name;
+	FToolMenuOwner Owner;
+	EUserInterfaceActionType UserInterfaceActionType = EUserInterfaceActionType::Button;
+
+	/** Of a sub-menu: whether clicking one of its entries closes all menus. */
+	bool bShouldCloseWindowAfterMenuSelection = true;
+	bool bIsSubMenu = false;
+	FNewToolMenuChoice ConstructMenu;
+	TAttribute<FText> Label;
+	TAttribute<FText> ToolTip;
+	FToolUIActionChoice Action;
+
+	/** Of an entry that is a widget. */
+	TSharedPtr<SWidget> Widget;
+};
