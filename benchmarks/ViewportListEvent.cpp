@@ -2,38 +2,22 @@
 // What the editor module adds to a change of the level viewport list, beside an event that nobody listens to.
 #include "Editor.h"
 #include "EditorDriver.h"
+#include "Session.h"
 #include "Subject.h"
-
-#include <filesystem>
 
 namespace
 {
-/** The one editor session of this process; it ends with the process. */
-FEditorDriver& session()
-{
-	static FEditorDriver* const driver = []
-	{
-		FEngineLoopOptions options;
-		options.ProjectFolder = (std::filesystem::temp_directory_path() / "tonalith-bench").generic_wstring().c_str();
-		options.PluginFolders.Add(TEXT(BENCH_PLUGINS));
-		FEditorDriver* const started = new FEditorDriver();
-		started->Start(options);
-		return started;
-	}();
-	return *driver;
-}
-
 template <int32 Count>
 void openPanes()
 {
 	while (GEditor->GetLevelViewportClients().Num() < Count)
 	{
-		session().OpenPane(
+		Bench::session().OpenPane(
 			FString::Printf(TEXT("Bench.Viewport 1.Viewport%d"), GEditor->GetLevelViewportClients().Num()));
 	}
 	while (GEditor->GetLevelViewportClients().Num() > Count)
 	{
-		session().ClosePane(
+		Bench::session().ClosePane(
 			FString::Printf(TEXT("Bench.Viewport 1.Viewport%d"), GEditor->GetLevelViewportClients().Num() - 1));
 	}
 }
@@ -41,7 +25,7 @@ void openPanes()
 template <int32 Count>
 void event(benchmark::State& state)
 {
-	session();
+	Bench::session();
 	openPanes<Count>();
 	for (auto _ : state)
 	{
@@ -52,7 +36,7 @@ void event(benchmark::State& state)
 template <int32 Count>
 void unheard(benchmark::State& state)
 {
-	session();
+	Bench::session();
 	openPanes<Count>();
 	for (auto _ : state)
 	{

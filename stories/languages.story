@@ -7,12 +7,20 @@ put file ../Plugins/Tonalith/Translations/table_fr.json ProgramData/Vantor/com.v
 start fr
 layout OnePane
 create asset "Look Tonalith" /Game/Looks/Chaud
+open menu View TNLDisplaySubMenu
+expect menu "Gestion des couleurs"
+expect menu "Look Tonalith >"
+expect menu "Look de cette vue"
+expect menu "[ ] Afficher le look"
+expect menu "Choisir un look >"
 quit
 
 # A language without a file.
 start nl
 layout OnePane
 create asset "Tonalith Look" /Game/Looks/Warm
+open menu View TNLDisplaySubMenu
+expect menu "[ ] Show Look"
 quit
 
 # Without any file the keys show.
@@ -20,4 +28,7 @@ new project
 start en
 layout OnePane
 create asset "AssetTypeActions_TonalithObject.AssetTypeActions_Tonalith" /Game/Looks/Warm
+open menu View TNLDisplaySubMenu
+expect menu "TonalithEditorModule.ColorManagement_Label"
+expect menu "[ ] STonalithWidget.EnableDisplay_Label"
 quit

@@ -4,7 +4,10 @@ asset /Script/Tonalith.TonalithObject /Game/Looks/Warm.Warm
 start
 layout FourPanes2x2
 activate pane "FourPanes2x2.Viewport 1.Viewport2"
-console "Tonalith.Show /Game/Looks/Warm.Warm"
+open menu View TNLDisplaySubMenu TNLAssetSelection
+click Warm
+open menu TNLDisplaySubMenu
+click EnableDisplay
 close pane "FourPanes2x2.Viewport 1.Viewport2"
 expect log "LogTemp: OnLevelViewportClientListChanged"
 layout OnePane
@@ -14,6 +17,7 @@ expect file "Saved/Config/WindowsEditor/EditorPerProjectUserSettings.ini" "expec
 start
 open pane "FourPanes2x2.Viewport 1.Viewport2"
 expect log "LogTemp: SetupViewportDisplaySettings"
-console Tonalith.Describe
-expect log "active viewport: shown yes, look Warm"
+open menu View TNLDisplaySubMenu
+expect menu "[x] STonalithWidget.EnableDisplay_Label"
+expect menu "Warm >"
 quit

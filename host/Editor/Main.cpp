@@ -1,6 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // The headless editor: plays a story.
-//   HeadlessEditor -story=<file> [-project=<folder>] [-plugins=<folder>[;<folder>...]]
+//   HeadlessEditor -story=<file> [-project=<folder>] [-plugins=<folder>[;<folder>...]] [-report=<folder>]
 // Each session of a story runs in a process of its own, which this one starts with "-session=<number>" added.
 // Exit codes: 0 played to the end, 1 a step failed or the input is bad, 3 a fatal check.
 #include "Misc/Paths.h"
@@ -16,6 +16,9 @@ struct FCommandLine
 {
 	std::string Story;
 	FEngineLoopOptions Options;
+
+	/** Where a page about the story is written; empty for none. */
+	FString ReportFolder;
 
 	/** The one session to play, or -1 for all. */
 	int Session = -1;
@@ -56,6 +59,10 @@ FCommandLine Parse(int Count, wchar_t** Arguments)
 		else if (Key == L"-plugins")
 		{
 			Result.Options.PluginFolders = SplitFolders(Value);
+		}
+		else if (Key == L"-report")
+		{
+			Result.ReportFolder = Value.c_str();
 		}
 		else if (Key == L"-session")
 		{
@@ -102,11 +109,13 @@ int wmain(int Count, wchar_t** Arguments)
 		const FCommandLine CommandLine = Parse(Count, Arguments);
 		const FStory Story(CommandLine.Story);
 		FStoryPlayer::Check(Story);
+		const FReport Report(CommandLine.ReportFolder);
 		if (CommandLine.Session >= 0)
 		{
-			FStoryPlayer(CommandLine.Options).Play(Story, static_cast<size_t>(CommandLine.Session));
+			FStoryPlayer(CommandLine.Options, Report).Play(Story, static_cast<size_t>(CommandLine.Session));
 			return 0;
 		}
+		Report.Begin(Story.Title());
 		for (size_t Session = 0; Session < Story.SessionCount(); ++Session)
 		{
 			if (const int Code = RunSession(Session))

@@ -1,8 +1,10 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Story.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <utility>
 
 FStory::FStory(const std::string& File) : Name(File)
 {
@@ -13,27 +15,44 @@ FStory::FStory(const std::string& File) : Name(File)
 	}
 	size_t Number = 0;
 	size_t Starts = 0;
+	std::string Narration;
 	for (std::string Line; std::getline(Stream, Line);)
 	{
 		if (!Line.empty() && Line.back() == '\r')
 		{
 			Line.pop_back();
 		}
-		FStoryStep Step{++Number, {}, Line, 0};
+		FStoryStep Step{++Number, {}, Line, {}, 0};
 		Step.Words = Split(Step);
 		Starts += !Step.Words.empty() && Step.Words[0].Text == "start";
 		Step.Session = Starts > 0 ? Starts - 1 : 0;
+		Narration += CommentOf(Line);
 		if (!Step.Words.empty())
 		{
+			Step.Narration = std::exchange(Narration, {});
 			AllSteps.push_back(Step);
 		}
 	}
+}
+
+std::string FStory::CommentOf(const std::string& Line)
+{
+	const size_t Text = Line.starts_with('#') ? Line.find_first_not_of("# \t") : std::string::npos;
+	return Text == std::string::npos ? std::string() : Line.substr(Text) + " ";
 }
 
 std::string FStory::Folder() const
 {
 	const size_t Slash = Name.find_last_of("/\\");
 	return Slash == std::string::npos ? std::string() : Name.substr(0, Slash);
+}
+
+std::string FStory::Title() const
+{
+	std::string Words = Name.substr(Folder().empty() ? 0 : Folder().size() + 1);
+	Words.erase(Words.rfind('.') == std::string::npos ? Words.size() : Words.rfind('.'));
+	std::replace(Words.begin(), Words.end(), '-', ' ');
+	return Words;
 }
 
 FStoryError FStory::Error(const FStoryStep& Step, size_t Column, const std::string& Reason) const

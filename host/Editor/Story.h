@@ -30,6 +30,9 @@ struct FStoryStep
 	/** The line as it stands in the file. */
 	std::string Source;
 
+	/** The comment lines that stand above the step, as one text. */
+	std::string Narration;
+
 	/** Counted from 0: the editor that a second "start" starts belongs to session 1. */
 	size_t Session;
 };
@@ -45,6 +48,9 @@ public:
 
 	const std::vector<FStoryStep>& Steps() const { return AllSteps; }
 
+	/** The file's name without its extension, in words. */
+	std::string Title() const;
+
 	/** The folder that the story lies in, UTF-8; empty for the current one. */
 	std::string Folder() const;
 
@@ -53,6 +59,9 @@ public:
 
 private:
 	std::vector<FStoryWord> Split(const FStoryStep& Step) const;
+
+	/** The text of a comment line; empty for any other. */
+	static std::string CommentOf(const std::string& Line);
 
 	std::string Name;
 	std::vector<FStoryStep> AllSteps;

@@ -42,7 +42,8 @@ std::string WithEditorLineEnds(const std::string& Text)
 }
 } // namespace
 
-FStoryPlayer::FStoryPlayer(const FEngineLoopOptions& InOptions) : Options(InOptions)
+FStoryPlayer::FStoryPlayer(const FEngineLoopOptions& InOptions, const FReport& InReport)
+	: Options(InOptions), Report(InReport)
 {
 	GLog->AddOutputDevice(this);
 }
@@ -59,20 +60,20 @@ const std::vector<FStoryPlayer::FVerb>& FStoryPlayer::Verbs()
 		{"asset", 2, &FStoryPlayer::Asset},
 		{"put file", 2, &FStoryPlayer::PutFile},
 		{"start", 0, &FStoryPlayer::Start, true},
-		{"open pane", 1, &FStoryPlayer::OpenPane},
 		{"layout", 1, &FStoryPlayer::Layout},
+		{"open pane", 1, &FStoryPlayer::OpenPane},
 		{"close pane", 1, &FStoryPlayer::ClosePane},
 		{"activate pane", 1, &FStoryPlayer::ActivatePane},
+		{"open menu", 1, &FStoryPlayer::OpenMenu, true},
+		{"click", 1, &FStoryPlayer::Click},
 		{"create asset", 2, &FStoryPlayer::CreateAsset},
 		{"open assets", 1, &FStoryPlayer::OpenAssets, true},
 		{"save picture", 1, &FStoryPlayer::SavePicture},
-		{"play in pane", 0, &FStoryPlayer::PlayInPane},
-		{"play in window", 0, &FStoryPlayer::PlayInWindow},
+		{"play in", 1, &FStoryPlayer::PlayIn},
 		{"end play", 0, &FStoryPlayer::EndPlay},
-		{"console", 1, &FStoryPlayer::Console},
 		{"quit", 0, &FStoryPlayer::Quit},
 		{"expect log", 1, &FStoryPlayer::ExpectLog},
-		{"expect no log", 1, &FStoryPlayer::ExpectNoLog},
+		{"expect menu", 1, &FStoryPlayer::ExpectMenu},
 		{"expect file", 2, &FStoryPlayer::ExpectFile},
 		{"expect picture", 2, &FStoryPlayer::ExpectPicture},
 	};
@@ -134,8 +135,7 @@ void FStoryPlayer::Play(const FStory& Story, size_t Session)
 		{
 			continue;
 		}
-		std::printf("%s\n", Step.Source.c_str());
-		std::fflush(stdout);
+		Show(Step);
 		if (!Verb.Words.starts_with("expect"))
 		{
 			Log.clear();
@@ -151,17 +151,22 @@ void FStoryPlayer::Play(const FStory& Story, size_t Session)
 	}
 }
 
+void FStoryPlayer::Show(const FStoryStep& Step) const
+{
+	std::printf("%s\n", Step.Source.c_str());
+	std::fflush(stdout);
+	if (!Step.Narration.empty())
+	{
+		Report.AddNarration(Step.Narration);
+	}
+	Report.AddStep(Step.Source);
+}
+
 void FStoryPlayer::Serialize(const TCHAR* Text, ELogVerbosity::Type, const FName& Category)
 {
 	const std::string Line = TCHAR_TO_UTF8(*(Category.ToString() + TEXT(": ") + Text));
 	Log.push_back(Line);
 	std::printf("    %s\n", Line.c_str());
-}
-
-bool FStoryPlayer::WasLogged(const std::string& Text) const
-{
-	return std::any_of(
-		Log.begin(), Log.end(), [&Text](const std::string& Line) { return Line.find(Text) != std::string::npos; });
 }
 
 void FStoryPlayer::NewProject(const FArguments&)
@@ -224,6 +229,20 @@ void FStoryPlayer::ActivatePane(const FArguments& Arguments)
 	Driver.ActivatePane(Wide(Arguments[0]));
 }
 
+void FStoryPlayer::OpenMenu(const FArguments& Arguments)
+{
+	for (const std::string& Name : Arguments)
+	{
+		Name == "View" ? Driver.Menus().OpenViewMenu() : Driver.Menus().OpenSubMenu(Wide(Name));
+	}
+	Report.AddMenu(TCHAR_TO_UTF8(*Driver.Menus().Text()));
+}
+
+void FStoryPlayer::Click(const FArguments& Arguments)
+{
+	Driver.Menus().Click(Wide(Arguments[0]));
+}
+
 void FStoryPlayer::CreateAsset(const FArguments& Arguments)
 {
 	Driver.CreateAsset(Wide(Arguments[0]), Wide(Arguments[1]));
@@ -250,6 +269,7 @@ void FStoryPlayer::SavePicture(const FArguments& Arguments)
 	{
 		throw FDriverError(PictureFile(Arguments[0]) + TEXT(" cannot be written"));
 	}
+	Report.AddPicture(PictureFile(Arguments[0]), Arguments[0]);
 }
 
 void FStoryPlayer::ExpectPicture(const FArguments& Arguments)
@@ -269,24 +289,18 @@ void FStoryPlayer::ExpectPicture(const FArguments& Arguments)
 	}
 }
 
-void FStoryPlayer::PlayInPane(const FArguments&)
+void FStoryPlayer::PlayIn(const FArguments& Arguments)
 {
-	Driver.PlayInPane();
-}
-
-void FStoryPlayer::PlayInWindow(const FArguments&)
-{
-	Driver.PlayInWindow();
+	if (Arguments[0] != "pane" && Arguments[0] != "window")
+	{
+		throw FDriverError(TEXT("play is in a pane or in a window"));
+	}
+	Arguments[0] == "pane" ? Driver.PlayInPane() : Driver.PlayInWindow();
 }
 
 void FStoryPlayer::EndPlay(const FArguments&)
 {
 	Driver.EndPlay();
-}
-
-void FStoryPlayer::Console(const FArguments& Arguments)
-{
-	Driver.Console(Wide(Arguments[0]));
 }
 
 void FStoryPlayer::Quit(const FArguments&)
@@ -296,18 +310,29 @@ void FStoryPlayer::Quit(const FArguments&)
 
 void FStoryPlayer::ExpectLog(const FArguments& Arguments)
 {
-	if (!WasLogged(Arguments[0]))
+	const std::string& Text = Arguments[0];
+	if (std::none_of(
+			Log.begin(), Log.end(), [&Text](const std::string& Line) { return Line.find(Text) != std::string::npos; }))
 	{
-		throw FDriverError(TEXT("the log does not hold \"") + Wide(Arguments[0]) + TEXT("\""));
+		throw FDriverError(TEXT("the log does not hold \"") + Wide(Text) + TEXT("\""));
 	}
 }
 
-void FStoryPlayer::ExpectNoLog(const FArguments& Arguments)
+void FStoryPlayer::ExpectMenu(const FArguments& Arguments)
 {
-	if (WasLogged(Arguments[0]))
+	// Whole rows, whatever their depth.
+	std::istringstream Menu(TCHAR_TO_UTF8(*Driver.Menus().Text()));
+	std::string Others;
+	for (std::string Row; std::getline(Menu, Row);)
 	{
-		throw FDriverError(TEXT("the log holds \"") + Wide(Arguments[0]) + TEXT("\""));
+		Row.erase(0, Row.find_first_not_of(' '));
+		if (Row == Arguments[0])
+		{
+			return;
+		}
+		Others += " \"" + Row + "\"";
 	}
+	throw FDriverError(TEXT("no row of the open menus is \"") + Wide(Arguments[0] + "\", only:" + Others));
 }
 
 void FStoryPlayer::ExpectFile(const FArguments& Arguments)

@@ -4,12 +4,13 @@
 
 #include "EditorDriver.h"
 #include "Misc/OutputDevice.h"
+#include "Report.h"
 #include "Story.h"
 
 class FStoryPlayer : private FOutputDevice
 {
 public:
-	explicit FStoryPlayer(const FEngineLoopOptions& InOptions);
+	FStoryPlayer(const FEngineLoopOptions& InOptions, const FReport& InReport);
 	~FStoryPlayer() override;
 
 	/** Checks all steps. Throws FStoryError at the first one that is wrong. */
@@ -39,30 +40,33 @@ private:
 	void Asset(const FArguments& Arguments);
 	void PutFile(const FArguments& Arguments);
 	void Start(const FArguments& Arguments);
-	void OpenPane(const FArguments& Arguments);
 	void Layout(const FArguments& Arguments);
+	void OpenPane(const FArguments& Arguments);
 	void ClosePane(const FArguments& Arguments);
 	void ActivatePane(const FArguments& Arguments);
+	void OpenMenu(const FArguments& Arguments);
+	void Click(const FArguments& Arguments);
 	void CreateAsset(const FArguments& Arguments);
 	void OpenAssets(const FArguments& Arguments);
 	void SavePicture(const FArguments& Arguments);
-	void PlayInPane(const FArguments& Arguments);
-	void PlayInWindow(const FArguments& Arguments);
+	void PlayIn(const FArguments& Arguments);
 	void EndPlay(const FArguments& Arguments);
-	void Console(const FArguments& Arguments);
 	void Quit(const FArguments& Arguments);
 	void ExpectLog(const FArguments& Arguments);
-	void ExpectNoLog(const FArguments& Arguments);
+	void ExpectMenu(const FArguments& Arguments);
 	void ExpectFile(const FArguments& Arguments);
 	void ExpectPicture(const FArguments& Arguments);
 
 	/** Where a story's picture lies. */
 	FString PictureFile(const std::string& Name) const;
 
-	bool WasLogged(const std::string& Text) const;
+	/** Prints the step, and puts it into the report. */
+	void Show(const FStoryStep& Step) const;
+
 	void Serialize(const TCHAR* Text, ELogVerbosity::Type Verbosity, const FName& Category) override;
 
 	FEngineLoopOptions Options;
+	FReport Report;
 
 	/** Of the story that is played. */
 	FString StoryFolder;

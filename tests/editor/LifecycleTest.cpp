@@ -22,10 +22,11 @@ TEST_F(Lifecycle, StartBindsWorldsThenTheEngineLoopThenTheEditor)
 		ElementsAre("load library Tonalith", "start module Tonalith", "load library TonalithEditor",
 			"start module TonalithEditor", "bind FWorldDelegates::OnPreWorldInitialization", "start module AssetTools",
 			"register asset type TonalithObject", "bind FCoreDelegates::OnFEngineLoopInitComplete",
-			"register style TonalithStyle", "make the editor engine", "start module ToolMenus",
-			"start module LevelEditor", "register menu LevelEditor.LevelViewportToolBar.View",
-			"broadcast FWorldDelegates::OnPreWorldInitialization",
-			"bind UWorld::OnFeatureLevelChanged", "broadcast FCoreDelegates::OnFEngineLoopInitComplete",
+			"register style TonalithStyle", "start module ToolMenus",
+			"extend menu LevelEditor.LevelViewportToolBar.View", "add sub-menu TNLDisplaySubMenu",
+			"make the editor engine", "start module LevelEditor", "register menu LevelEditor.LevelViewportToolBar.View",
+			"broadcast FWorldDelegates::OnPreWorldInitialization", "bind UWorld::OnFeatureLevelChanged",
+			"broadcast FCoreDelegates::OnFEngineLoopInitComplete",
 			"bind UEditorEngine::OnLevelViewportClientListChanged", "bind FEditorDelegates::PreBeginPIE",
 			"bind FEditorDelegates::PostPIEStarted", "bind UGameViewportClient::CreatedDelegate"));
 	Driver.Quit();
@@ -39,9 +40,10 @@ TEST_F(Lifecycle, NormalExitFindsObjectsAndAssetToolsGone)
 	EXPECT_THAT(
 		TakeTrace(), ElementsAre("editor exit", "shut down module AssetTools", "broadcast FCoreDelegates::OnPreExit",
 						 "broadcast FCoreDelegates::OnExit", "purge objects", "shut down module LevelEditor",
-						 "shut down module ToolMenus", "shut down module TonalithEditor",
-						 "unregister style TonalithStyle", "unbind FWorldDelegates::OnPreWorldInitialization (1)",
-						 "unbind FCoreDelegates::OnFEngineLoopInitComplete (1)", "shut down module Tonalith"));
+						 "shut down module TonalithEditor", "unregister style TonalithStyle",
+						 "unbind FWorldDelegates::OnPreWorldInitialization (1)",
+						 "unbind FCoreDelegates::OnFEngineLoopInitComplete (1)", "shut down module ToolMenus",
+						 "shut down module Tonalith"));
 }
 
 TEST_F(Lifecycle, UnloadingInASessionRunsEveryStepAndLeavesFourBindings)
@@ -86,17 +88,19 @@ TEST_F(Lifecycle, CommandletGetsAlongWithoutEditor)
 	Options.bIsCommandlet = true;
 	Driver.Start(Options);
 	EXPECT_EQ(GEditor, nullptr);
-	EXPECT_THAT(
-		TakeTrace(), ElementsAre("load library Tonalith", "start module Tonalith", "load library TonalithEditor",
-						 "start module TonalithEditor", "bind FWorldDelegates::OnPreWorldInitialization",
-						 "start module AssetTools", "register asset type TonalithObject",
-						 "bind FCoreDelegates::OnFEngineLoopInitComplete", "register style TonalithStyle"));
+	EXPECT_THAT(TakeTrace(),
+		ElementsAre("load library Tonalith", "start module Tonalith", "load library TonalithEditor",
+			"start module TonalithEditor", "bind FWorldDelegates::OnPreWorldInitialization", "start module AssetTools",
+			"register asset type TonalithObject", "bind FCoreDelegates::OnFEngineLoopInitComplete",
+			"register style TonalithStyle", "start module ToolMenus",
+			"extend menu LevelEditor.LevelViewportToolBar.View", "add sub-menu TNLDisplaySubMenu"));
 	Driver.Quit();
 	EXPECT_THAT(
 		TakeTrace(), ElementsAre("editor exit", "shut down module AssetTools", "broadcast FCoreDelegates::OnPreExit",
 						 "broadcast FCoreDelegates::OnExit", "purge objects", "shut down module TonalithEditor",
 						 "unregister style TonalithStyle", "unbind FWorldDelegates::OnPreWorldInitialization (1)",
-						 "unbind FCoreDelegates::OnFEngineLoopInitComplete (1)", "shut down module Tonalith"));
+						 "unbind FCoreDelegates::OnFEngineLoopInitComplete (1)", "shut down module ToolMenus",
+						 "shut down module Tonalith"));
 }
 
 TEST_F(Lifecycle, ExitWithPanesAndPlayUnderWayStillReachesTheModule)

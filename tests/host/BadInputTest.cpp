@@ -69,15 +69,17 @@ TEST_F(BadInput, StoriesNameFileLineAndColumn)
 		{"start\nclose pane A\n", "bad.story:2:1: no pane \"A\" is open"},
 		{"start\nopen pane A\nopen pane A\n", "bad.story:3:1: a pane \"A\" is open already"},
 		{"start\nplay in pane\n", "bad.story:2:1: no pane is open to play in"},
+		{"start\nplay in bed\n", "bad.story:2:1: play is in a pane or in a window"},
 		{"start\nlayout Round\n", "bad.story:2:1: no layout \"Round\""},
 		{"start\ncreate asset Thing /Game/A\n", "bad.story:2:1: no new asset \"Thing\" is offered"},
 		{"start\nopen assets /Game/A.A\n", "bad.story:2:1: no asset \"/Game/A.A\""},
 		{"put file nowhere Saved/a\n", "bad.story:1:1: nowhere cannot be copied"},
 		{"start\nsave picture a\n", "bad.story:2:1: no pane is open"},
 		{"start\nopen pane A\nexpect picture like a\n", "a.png cannot be read"},
-		{"start\nconsole Nothing.Here\n", "bad.story:2:1: no console command \"Nothing.Here\""},
+		{"start\nopen menu View\n", "bad.story:2:1: no pane is open that has a menu"},
+		{"start\nopen pane A\nopen menu View\nclick Nothing\n", "bad.story:4:1: no entry \"Nothing\" can be clicked"},
+		{"start\nexpect menu Nothing\n", "bad.story:2:1: no row of the open menus is \"Nothing\""},
 		{"start\nexpect log nowhere\n", "bad.story:2:1: the log does not hold \"nowhere\""},
-		{"start\nopen pane A\nexpect no log \"open pane A\"\n", "bad.story:3:1: the log holds \"open pane A\""},
 	};
 	for (const auto& Row : Rows)
 	{

@@ -93,9 +93,9 @@ TEST_F(Menus, PickerCallsInTheEnginesOrder)
 	Start();
 	OpenProbe();
 	Driver.Menus().OpenSubMenu(TEXT("Choice"));
-	EXPECT_THROW(Driver.Menus().ClearAsset(), FDriverError);
-	EXPECT_THROW(Driver.Menus().ChooseAsset(TEXT("Other")), FDriverError);
-	Driver.Menus().ChooseAsset(TEXT("Warm"));
+	EXPECT_THROW(Driver.Menus().Click(TEXT("Clear")), FDriverError);
+	EXPECT_THROW(Driver.Menus().Click(TEXT("Other")), FDriverError);
+	Driver.Menus().Click(TEXT("Warm"));
 	EXPECT_THAT(
 		TakeLog("LogProbeMenu"), ElementsAre("Display: set Warm, 3 menus open", "Display: closed, 1 menus open"));
 	EXPECT_EQ(Text(), "Probing\n  Probe >\nView\n  [x] Realtime\n");
@@ -104,8 +104,8 @@ TEST_F(Menus, PickerCallsInTheEnginesOrder)
 	Driver.Menus().OpenSubMenu(TEXT("Choice"));
 	EXPECT_THAT(
 		Text(), HasSubstr("      Warm >\n        Assets\n          Edit\n          Clear\n          Cold\nView"));
-	EXPECT_THROW(Driver.Menus().ChooseAsset(TEXT("Warm")), FDriverError);
-	Driver.Menus().ClearAsset();
+	EXPECT_THROW(Driver.Menus().Click(TEXT("Warm")), FDriverError);
+	Driver.Menus().Click(TEXT("Clear"));
 	EXPECT_THAT(
 		TakeLog("LogProbeMenu"), ElementsAre("Display: set None, 2 menus open", "Display: closed, 1 menus open"));
 }

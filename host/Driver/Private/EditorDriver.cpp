@@ -2,7 +2,6 @@
 #include "EditorDriver.h"
 
 #include "Editor.h"
-#include "HAL/IConsoleManager.h"
 #include "Host/Assets.h"
 #include "Host/ContentBrowser.h"
 #include "Host/Trace.h"
@@ -207,15 +206,6 @@ const FMenuDriver& FEditorDriver::Menus()
 	RequireStarted();
 	Loop.Tick();
 	return MenuDriver;
-}
-
-void FEditorDriver::Console(const FString& Line)
-{
-	RequireStarted();
-	if (!IConsoleManager::Get().ProcessUserConsoleInput(*Line))
-	{
-		throw FDriverError(FString::Printf(TEXT("no console command \"%s\""), *Line));
-	}
 }
 
 void FEditorDriver::UnloadModule(const FString& Name)

@@ -102,19 +102,14 @@ void FMenuDriver::OpenSubMenu(const FString& Entry) const
 	FindRow(Entry, TEXT("sub-menu"), {EMenuRow::SubMenu})->Click();
 }
 
-void FMenuDriver::Click(const FString& Entry) const
+void FMenuDriver::Click(const FString& Name) const
 {
-	FindRow(Entry, TEXT("entry"), {EMenuRow::Button, EMenuRow::Toggle})->Click();
+	FindRow(Name, TEXT("entry"), {EMenuRow::Button, EMenuRow::Toggle, EMenuRow::Asset})->Click();
 }
 
 void FMenuDriver::ClickCheckBox(const FString& Entry) const
 {
 	FindRow(Entry, TEXT("check box"), {EMenuRow::Toggle})->ClickCheckBox();
-}
-
-void FMenuDriver::ChooseAsset(const FString& Name) const
-{
-	FindRow(Name, TEXT("asset"), {EMenuRow::Asset})->Click();
 }
 
 void FMenuDriver::CloseAll() const

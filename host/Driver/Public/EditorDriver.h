@@ -75,9 +75,6 @@ public:
 	/** The menus, a frame after whatever was done before. */
 	const FMenuDriver& Menus();
 
-	/** Types a line into the console. */
-	void Console(const FString& Line);
-
 	/** Shuts a module down in the middle of the session. */
 	void UnloadModule(const FString& Name);
 

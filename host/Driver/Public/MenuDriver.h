@@ -13,17 +13,11 @@ public:
 
 	void OpenSubMenu(const FString& Entry) const;
 
-	/** Clicks an entry. */
-	void Click(const FString& Entry) const;
+	/** Clicks an entry, or an asset in a picker; "Clear" is an entry of pickers. */
+	void Click(const FString& Name) const;
 
 	/** Clicks the check box of a toggle. */
 	void ClickCheckBox(const FString& Entry) const;
-
-	/** Clicks an asset in a picker. */
-	void ChooseAsset(const FString& Name) const;
-
-	/** Clicks "Clear" in a picker. */
-	void ClearAsset() const { Click(TEXT("Clear")); }
 
 	/** Clicks beside the menus. */
 	void CloseAll() const;

@@ -22,6 +22,7 @@ public class TonalithEditor : ModuleRules
 			"InputCore",
 			"LevelEditor",
 			"Projects",
+			"PropertyEditor",
 			"Slate",
 			"SlateCore",
 			"ToolMenus",

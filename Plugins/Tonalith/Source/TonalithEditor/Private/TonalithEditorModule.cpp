@@ -16,6 +16,7 @@ void FTonalithEditorModule::StartupModule()
 	RegisterAssetTypes();
 	BindEngineLoop();
 	InitializeStyle();
+	RegisterMenus();
 }
 
 void FTonalithEditorModule::ShutdownModule()

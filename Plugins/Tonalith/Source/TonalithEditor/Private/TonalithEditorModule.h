@@ -13,6 +13,7 @@ class FLevelEditorViewportClient;
 class FViewport;
 class FViewportClient;
 class IAssetTypeActions;
+class UToolMenu;
 struct FTonalithDisplayConfiguration;
 
 DECLARE_LOG_CATEGORY_EXTERN(LogTonalithEditor, Log, All);
@@ -51,6 +52,11 @@ private:
 	/** Tracks the viewport's client without storing anything; fatal for one that is not in the editor's level list. */
 	void TrackViewport(FViewport* Viewport);
 	bool IsTracked(const FViewportClient* Client) const;
+
+	// The viewport's menu: a sub-menu of "View" with the controls for the active viewport's look.
+	void RegisterMenus();
+	void MakeDisplaySubMenu(UToolMenu* Menu);
+	void HandleDisplayConfigurationChanged(const FTonalithDisplayConfiguration& Configuration);
 
 	// Play in editor: a session starts with the look of the viewport that was active when it was launched.
 	void OnPreBeginPIE(const bool bIsSimulating);
