@@ -1,0 +1,246 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "ImportOverride.h"
+#include "LogLines.h"
+#include "SystemFunction.h"
+#include "TemporaryFolder.h"
+
+#include <gmock/gmock.h>
+#include <kiln/Logger.h>
+
+namespace
+{
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Lines = std::vector<std::string>;
+
+class LoggerTest : public testing::Test
+{
+protected:
+	Kiln::LoggingComponent& component(const std::string& name) { return *logger.component(name); }
+
+	TemporaryFolder folder;
+	Kiln::Logger logger;
+};
+
+TEST_F(LoggerTest, WritesLinesFromTheLevelOn)
+{
+	const std::string file = folder / "a.log";
+	logger.setDefaultLogFile(file);
+	EXPECT_EQ(logger.defaultLevel(), 0u);
+	Kiln::LoggingComponent& all = component("all");
+	logger.setDefaultLevel(Kiln::LogLevel::warning);
+	Kiln::LoggingComponent& some = component("some");
+	EXPECT_EQ(all.level(), 0u);
+	EXPECT_EQ(some.level(), 2u);
+	for (std::uint32_t level = 0; level < 6; ++level)
+	{
+		all.log("all " + std::to_string(level), level);
+		some.log("some " + std::to_string(level), level);
+	}
+	some.setLevel(5);
+	some.log("critical", Kiln::LogLevel::critical);
+	some.log("higher", 5);
+	some.setLevel(0xFFFFFFFF);
+	some.log("none", 0xFFFFFFFE);
+	EXPECT_THAT(linesOf(file), ElementsAre("all 0", "all 1", "all 2", "some 2", "all 3", "some 3", "all 4", "some 4",
+								   "all 5", "some 5", "higher"));
+}
+
+TEST_F(LoggerTest, OneNameIsOneComponent)
+{
+	const std::string first = folder / "first.log";
+	const std::string second = folder / "second.log";
+	logger.setDefaultLogFile(first);
+	Kiln::LoggingComponent& one = component("one");
+	one.setLevel(Kiln::LogLevel::error);
+	logger.setComponentFile("one", second);
+	logger.setComponentFile("two", second);
+	EXPECT_EQ(logger.component("one"), &one);
+	EXPECT_EQ(one.level(), Kiln::LogLevel::error);
+	EXPECT_EQ(one.name(), "one");
+	EXPECT_EQ(&one.logger(), &logger);
+	EXPECT_NE(logger.component("One"), &one);
+
+	one.log("1", Kiln::LogLevel::error);
+	warn(component("two"), "2");
+	EXPECT_THAT(linesOf(first), ElementsAre("1"));
+	EXPECT_THAT(linesOf(second), ElementsAre(testing::EndsWith("[WRN] two: 2")));
+
+	EXPECT_TRUE(logger.removeComponent(&one));
+	EXPECT_FALSE(logger.removeComponent("one"));
+	EXPECT_FALSE(logger.removeComponent(nullptr));
+	component("one").log("3", 0);
+	EXPECT_THAT(linesOf(first), ElementsAre("1"));
+	EXPECT_EQ(linesOf(second).back(), "3");
+}
+
+TEST_F(LoggerTest, SpellingsOfOnePathShareAFile)
+{
+	const std::string file = folder / "new/folders\\L\xC3\x84NGE \xE3\x81\x82.log";
+	const Lines spellings = {
+		file, folder / "new\\.\\x/..\\folders//l\xC3\xA4nge \xE3\x81\x82.LOG", file + "\\", file + "."};
+	ImportOverride open("_wfopen", &_wfopen,
+		[real = systemFunction(&_wfopen, "_wfopen")](const wchar_t* name, const wchar_t* mode)
+		{ return real(name, mode); });
+	for (std::size_t spelling = 0; spelling < spellings.size(); ++spelling)
+	{
+		const std::string name = std::to_string(spelling);
+		logger.setComponentFile(name, spellings[spelling]);
+		component(name).log(name, 0);
+	}
+	EXPECT_EQ(open.calls(), 1);
+	EXPECT_THAT(linesOf(file), ElementsAre("0", "1", "2", "3"));
+}
+
+TEST_F(LoggerTest, ExtendsFilesAndClosesThem)
+{
+	const std::string file = folder / "a.log";
+	logger.setDefaultLogFile(file);
+	component("a").log("1", 0);
+	boost::system::error_code error;
+	EXPECT_FALSE(boost::filesystem::remove(Kiln::widePath(file), error));
+	logger.closeAllFiles();
+	logger.closeAllFiles();
+	EXPECT_TRUE(logger.removeComponent("a"));
+	component("a").log("2", 0);
+	EXPECT_THAT(linesOf(file), ElementsAre("1", "2"));
+
+	// Redirected before it wrote again, a component survives the end of its file.
+	logger.closeAllFiles();
+	component("a").setStream(std::make_unique<std::ostringstream>());
+	component("a").log("3", 0);
+	EXPECT_THAT(linesOf(file), ElementsAre("1", "2"));
+	EXPECT_TRUE(boost::filesystem::remove(Kiln::widePath(file)));
+}
+
+TEST_F(LoggerTest, WithoutAFileItIsSilent)
+{
+	const std::string blocker = folder.file("file");
+	Lines paths = {"", folder.path, folder.path + "\\", blocker + "\\a.log", folder / "a<b.log", folder / "a\nb.log",
+		"\\", "C:", std::string("a\0b", 3), folder / std::string(32'000, 'a')};
+	for (std::size_t at = 0; at < paths.size(); ++at)
+	{
+		const std::string name = std::to_string(at);
+		logger.setComponentFile(name, paths[at]);
+		warn(component(name), "lost");
+		EXPECT_EQ(component(name).level(), 0u);
+	}
+	EXPECT_THAT(Kiln::listFiles(folder.path), testing::Optional(ElementsAre("file")));
+	EXPECT_EQ(linesOf(blocker), Lines{});
+
+	// The next component for the file tries again.
+	boost::filesystem::remove(Kiln::widePath(blocker));
+	logger.setComponentFile("next", paths[3]);
+	component("next").log("found", 0);
+	EXPECT_THAT(linesOf(paths[3]), ElementsAre("found"));
+}
+
+TEST_F(LoggerTest, NamesAndMessagesAreWrittenAsTheyAre)
+{
+	logger.setDefaultLogFile(folder / "a.log");
+	warn(component(""), "");
+	warn(component("a\nb"), "c\nd \xC3\xBC");
+	warn(component(std::string(600, 'n')), std::string(10'000, 'm'));
+	const Lines lines = linesOf(folder / "a.log");
+	ASSERT_EQ(lines.size(), 5u);
+	const std::size_t stamp = std::string("26-11-14 03:36:50 ").size();
+	EXPECT_EQ(lines[0].substr(stamp), "[WRN] : ");
+	EXPECT_EQ(lines[1].substr(stamp), "[WRN] a");
+	EXPECT_EQ(lines[2], "b: c");
+	EXPECT_EQ(lines[3], "d \xC3\xBC");
+	EXPECT_EQ(lines[4].substr(stamp), "[WRN] " + std::string(600, 'n') + ": " + std::string(10'000, 'm'));
+}
+
+TEST_F(LoggerTest, RedirectsToTheConsole)
+{
+	logger.setDefaultLogFile(folder / "a.log");
+	component("out").setLevel(Kiln::LogLevel::critical);
+	logger.setDefaultLevel(Kiln::LogLevel::warning);
+	testing::internal::CaptureStdout();
+	testing::internal::CaptureStderr();
+	logger.redirectToConsole("out");
+	logger.redirectToErrorConsole("new");
+	for (const char* name : {"out", "new"})
+	{
+		EXPECT_EQ(component(name).level(), Kiln::LogLevel::warning);
+		component(name).log(name, Kiln::LogLevel::warning);
+		component(name).log("below", Kiln::LogLevel::information);
+	}
+	EXPECT_EQ(testing::internal::GetCapturedStdout(), "out\n");
+	EXPECT_EQ(testing::internal::GetCapturedStderr(), "new\n");
+	EXPECT_THAT(linesOf(folder / "a.log"), IsEmpty());
+}
+
+TEST_F(LoggerTest, TakesStreams)
+{
+	struct Stream : std::ostringstream
+	{
+		explicit Stream(int& liveStreams) : live(liveStreams) { ++live; }
+		~Stream() override { --live; }
+		int& live;
+	};
+	int live = 0;
+	std::ostringstream shared;
+	Kiln::Lock lock;
+	Kiln::LoggingComponent& taker = component("taker");
+	taker.setStream(std::make_unique<Stream>(live));
+	taker.setStream(std::make_unique<Stream>(live));
+	EXPECT_EQ(live, 1);
+	taker.setStream(shared, lock);
+	EXPECT_EQ(live, 0);
+	taker.log("1", 0);
+	taker.setStream(nullptr);
+	taker.log("2", 0);
+	taker.setStream(std::make_unique<Stream>(live));
+	logger.removeComponent("taker");
+	EXPECT_EQ(live, 0);
+	EXPECT_EQ(shared.str(), "1\n");
+}
+
+TEST_F(LoggerTest, AFullDiskSilencesItsFileAlone)
+{
+	logger.setComponentFile("full", folder / "full.log");
+	logger.setDefaultLogFile(folder / "a.log");
+	component("full").log("1", 0);
+	{
+		const auto fail = [](HANDLE, LPCVOID, DWORD, LPDWORD written, LPOVERLAPPED)
+		{
+			*written = 0;
+			SetLastError(ERROR_DISK_FULL);
+			return FALSE;
+		};
+		ImportOverride write("WriteFile", &WriteFile, fail, GetModuleHandleW(L"msvcrt.dll"));
+		component("full").log("2", 0);
+		component("full").log(std::string(10'000, '3'), 0);
+	}
+	component("full").log("4", 0);
+	component("other").log("5", 0);
+	EXPECT_THAT(linesOf(folder / "full.log"), ElementsAre("1"));
+	EXPECT_THAT(linesOf(folder / "a.log"), ElementsAre("5"));
+
+	logger.closeAllFiles();
+	logger.removeComponent("full");
+	component("full").log("6", 0);
+	const Lines lines = linesOf(folder / "full.log");
+	EXPECT_EQ(lines.front(), "1");
+	EXPECT_EQ(lines.back(), "6");
+}
+
+TEST_F(LoggerTest, ManyComponentsShareFewFiles)
+{
+	constexpr int Components = 10'000;
+	constexpr int Files = 100;
+	for (int number = 0; number < Components; ++number)
+	{
+		const std::string name = std::to_string(number);
+		logger.setComponentFile(name, folder / (std::to_string(number % Files) + ".log"));
+		component(name).log(name, 0);
+	}
+	for (int file = 0; file < Files; ++file)
+	{
+		const Lines lines = linesOf(folder / (std::to_string(file) + ".log"));
+		ASSERT_EQ(lines.size(), std::size_t{Components / Files});
+		EXPECT_EQ(lines.back(), std::to_string(Components - Files + file));
+	}
+}
+} // namespace
