@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <windows.h>
 
 namespace Kiln
@@ -14,10 +15,10 @@ struct HandleCloser
 /** Owns a kernel handle; null when there is none. */
 using Handle = std::unique_ptr<void, HandleCloser>;
 
-/** Opens what exists, shared with every other user of it; null when the platform refuses. */
-inline Handle openExisting(const std::wstring& path, DWORD access, DWORD flags)
+/** Opens what exists, shared with every other user of it unless told otherwise; null when the platform refuses. */
+inline Handle openExisting(
+	const std::wstring& path, DWORD access, DWORD flags, DWORD share = FILE_SHARE_READ | FILE_SHARE_WRITE)
 {
-	constexpr DWORD share = FILE_SHARE_READ | FILE_SHARE_WRITE;
 	const HANDLE handle = CreateFileW(path.c_str(), access, share, nullptr, OPEN_EXISTING, flags, nullptr);
 	return Handle(handle == INVALID_HANDLE_VALUE ? nullptr : handle);
 }
