@@ -24,8 +24,8 @@ TEST_F(Lifecycle, StartBindsWorldsThenTheEngineLoopThenTheEditor)
 			"register asset type TonalithObject", "bind FCoreDelegates::OnFEngineLoopInitComplete",
 			"register style TonalithStyle", "make the editor engine", "start module ToolMenus",
 			"start module LevelEditor", "register menu LevelEditor.LevelViewportToolBar.View",
-			"broadcast FWorldDelegates::OnPreWorldInitialization",
-			"bind UWorld::OnFeatureLevelChanged", "broadcast FCoreDelegates::OnFEngineLoopInitComplete",
+			"broadcast FWorldDelegates::OnPreWorldInitialization", "bind UWorld::OnFeatureLevelChanged",
+			"broadcast FCoreDelegates::OnFEngineLoopInitComplete",
 			"bind UEditorEngine::OnLevelViewportClientListChanged", "bind FEditorDelegates::PreBeginPIE",
 			"bind FEditorDelegates::PostPIEStarted", "bind UGameViewportClient::CreatedDelegate"));
 	Driver.Quit();

@@ -28,13 +28,3 @@ bool IConsoleManager::ProcessUserConsoleInput(const TCHAR* Input)
 	Command->Execute(Arguments);
 	return true;
 }
-
-void IConsoleManager::RegisterConsoleCommand(const TCHAR* Name, const FConsoleCommandWithArgsDelegate& Command)
-{
-	Commands.Add(FName(Name), Command);
-}
-
-void IConsoleManager::UnregisterConsoleObject(const TCHAR* Name)
-{
-	Commands.Remove(FName(Name));
-}

@@ -14,11 +14,8 @@ public:
 	/** Runs a line: a command's name, then its arguments, separated by blanks. @return false for an unknown command */
 	CORE_API bool ProcessUserConsoleInput(const TCHAR* Input);
 
-	CORE_API void RegisterConsoleCommand(const TCHAR* Name, const FConsoleCommandWithArgsDelegate& Command);
-	CORE_API void UnregisterConsoleObject(const TCHAR* Name);
-
 private:
-	IConsoleManager() = default;
+	friend class FAutoConsoleCommand;
 
 	TMap<FName, FConsoleCommandWithArgsDelegate> Commands;
 };
@@ -30,14 +27,14 @@ public:
 	FAutoConsoleCommand(const TCHAR* InName, const TCHAR*, const FConsoleCommandWithArgsDelegate& Command)
 		: Name(InName)
 	{
-		IConsoleManager::Get().RegisterConsoleCommand(Name, Command);
+		IConsoleManager::Get().Commands.Add(Name, Command);
 	}
 
-	~FAutoConsoleCommand() { IConsoleManager::Get().UnregisterConsoleObject(Name); }
+	~FAutoConsoleCommand() { IConsoleManager::Get().Commands.Remove(Name); }
 
 	FAutoConsoleCommand(const FAutoConsoleCommand&) = delete;
 	FAutoConsoleCommand& operator=(const FAutoConsoleCommand&) = delete;
 
 private:
-	const TCHAR* Name;
+	FName Name;
 };
