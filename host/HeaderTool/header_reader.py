@@ -13,11 +13,10 @@ TOKEN = re.compile(r"""
     | (?P<mark>::|->|\S)
 """, re.VERBOSE | re.MULTILINE | re.DOTALL)
 
-CLASS_SPECIFIERS = {"config", "minimalapi", "abstract", "hidecategories", "blueprinttype"}
-STRUCT_SPECIFIERS = {"blueprinttype"}
-PROPERTY_SPECIFIERS = {"config", "editanywhere", "category", "meta", "transient"}
+CLASS_SPECIFIERS = {"config", "minimalapi"}
+PROPERTY_SPECIFIERS = {"config", "editanywhere", "category", "meta"}
 UNSUPPORTED = {"GENERATED_UCLASS_BODY", "GENERATED_USTRUCT_BODY", "UFUNCTION", "UENUM", "UINTERFACE", "UDELEGATE", "RIGVM_METHOD"}
-PLAIN_TYPES = {"bool": "FBoolProperty", "float": "FFloatProperty", "FName": "FNameProperty"}
+PLAIN_TYPES = {"bool", "float", "FName"}
 
 
 class HeaderError(Exception):
@@ -32,17 +31,9 @@ class Token:
 
 
 @dataclass
-class PropertyType:
-    """The property class that stands for a C++ type, and what it refers to: a type's name or an inner PropertyType."""
-    kind: str
-    cpp: str
-    refers: object = None
-
-
-@dataclass
 class Property:
     name: str
-    type: PropertyType
+    type: str
     specifiers: dict
     access: str
     comment: str
@@ -53,19 +44,14 @@ class Property:
 class Type:
     kind: str
     name: str
-    api: str
     base: str
     specifiers: dict
     comment: str
     macro_line: int
     body_line: int = 0
     body_access: str = "private"
-    declares: set = field(default_factory=set)
+    has_constructor: bool = False
     properties: list = field(default_factory=list)
-
-
-def tokenize(text):
-    return [Token(m.lastgroup, m.group(), text.count("\n", 0, m.start()) + 1) for m in TOKEN.finditer(text)]
 
 
 class Reader:
@@ -73,21 +59,22 @@ class Reader:
 
     def __init__(self, path, text):
         self.path = path
-        self.tokens = tokenize(text)
         self.at = 0
+        self.tokens = [Token(m.lastgroup, m.group(), text.count("\n", 0, m.start()) + 1) for m in TOKEN.finditer(text)]
+        self.tokens.append(Token("end", "", text.count("\n") + 1))
 
     def error(self, line, reason):
         return HeaderError(f"{self.path}:{line}: {reason}")
 
     def peek(self):
-        while self.at < len(self.tokens) and self.tokens[self.at].kind in ("comment", "directive"):
+        while self.tokens[self.at].kind in ("comment", "directive"):
             self.at += 1
-        return self.tokens[self.at] if self.at < len(self.tokens) else None
+        return self.tokens[self.at]
 
     def next(self):
         token = self.peek()
-        if token is None:
-            raise self.error(self.tokens[-1].line if self.tokens else 1, "the file ends too early")
+        if token.kind == "end":
+            raise self.error(token.line, "the file ends too early")
         self.at += 1
         return token
 
@@ -99,10 +86,8 @@ class Reader:
 
     def comment_before(self):
         """The comment lines that stand directly above the next token."""
-        lines, index = [], self.at
-        self.peek()
+        line, lines = self.peek().line, []
         index = self.at - 1
-        line = self.tokens[self.at].line
         while index >= 0 and self.tokens[index].kind == "comment":
             comment = self.tokens[index]
             last = comment.line + comment.text.count("\n")
@@ -139,8 +124,7 @@ class Reader:
         return "".join(parts).strip('"')
 
     def skip_braces(self):
-        """Reads on behind the brace that closes the one that comes next."""
-        self.expect("{")
+        """Reads on behind the brace that closes the one before."""
         depth = 1
         while depth:
             token = self.next()
@@ -153,7 +137,7 @@ class Reader:
         generated = f'"{Path(self.path).stem}.generated.h"'
         if not includes or generated not in includes[-1].text:
             raise self.error(includes[-1].line if includes else 1, f"the last include must be {generated}")
-        while self.peek() is not None:
+        while self.peek().kind != "end":
             comment, token = self.comment_before(), self.next()
             if token.text in UNSUPPORTED:
                 raise self.error(token.line, f"{token.text} is not supported")
@@ -165,17 +149,17 @@ class Reader:
 
     def type(self, macro, comment):
         is_class = macro.text == "UCLASS"
-        specifiers = self.specifiers(CLASS_SPECIFIERS if is_class else STRUCT_SPECIFIERS)
+        specifiers = self.specifiers(CLASS_SPECIFIERS if is_class else set())
         self.expect("class" if is_class else "struct")
-        name, api = self.next(), ""
+        name = self.next()
         if self.peek().kind == "word" and self.peek().text != "final":
-            api, name = name.text, self.next()
+            name = self.next()
         if self.peek().text == "final":
             self.next()
         prefix = "U" if is_class else "F"
         if not re.match(prefix + "[A-Z]", name.text):
             raise self.error(name.line, f'the name does not begin with "{prefix}": "{name.text}"')
-        result = Type("class" if is_class else "struct", name.text, api, "", specifiers, comment, macro.line)
+        result = Type("class" if is_class else "struct", name.text, "", specifiers, comment, macro.line)
         if self.peek().text == ":":
             self.next()
             self.expect("public")
@@ -204,20 +188,18 @@ class Reader:
                 self.expect("(")
                 self.expect(")")
             elif token.text == "UPROPERTY":
-                owner.properties.append(self.property(owner, access, comment))
+                owner.properties.append(self.property(access, comment))
             elif token.text in UNSUPPORTED:
                 raise self.error(token.line, f"{token.text} is not supported")
             elif token.text == "{":
-                self.at -= 1
                 self.skip_braces()
             elif token.text == "~":
-                owner.declares.add("destructor")
+                self.expect(owner.name)
             elif token.text == owner.name and self.peek().text == "(":
-                is_initializer = "FObjectInitializer" in "".join(t.text for t in self.tokens[self.at:self.at + 3])
-                owner.declares.add("initializer" if is_initializer else "default")
+                owner.has_constructor = True
         self.expect("}")
 
-    def property(self, owner, access, comment):
+    def property(self, access, comment):
         specifiers = self.specifiers(PROPERTY_SPECIFIERS)
         words = []
         while self.peek().text not in (";", "=", "{"):
@@ -228,17 +210,16 @@ class Reader:
         while self.next().text != ";":
             pass
         spelled = "".join(w.text for w in words if w.text not in ("class", "struct"))
-        return Property(name.text, self.property_type(spelled, name.line), specifiers, access, comment, name.line)
+        return Property(name.text, spelled, specifiers, access, comment, name.line)
 
-    def property_type(self, text, line):
-        array = re.fullmatch(r"TArray<(.+)>", text)
-        if array:
-            return PropertyType("FArrayProperty", text, self.property_type(array.group(1), line))
-        pointer = re.fullmatch(r"TObjectPtr<(U\w+)>|(U\w+)\*", text)
+    def referred(self, item):
+        """The kind and the name of the reflected type that a property's type refers to; neither for a plain type."""
+        element = re.sub(r"^TArray<(.+)>$", r"\1", item.type)
+        pointer = re.fullmatch(r"TObjectPtr<(U\w+)>", element)
         if pointer:
-            return PropertyType("FObjectProperty", text, pointer.group(1) or pointer.group(2))
-        if text in PLAIN_TYPES:
-            return PropertyType(PLAIN_TYPES[text], text)
-        if re.fullmatch(r"F[A-Z]\w*", text):
-            return PropertyType("FStructProperty", text, text)
-        raise self.error(line, f'unknown property type "{text}"')
+            return "class", pointer.group(1)
+        if element in PLAIN_TYPES:
+            return "", ""
+        if re.fullmatch(r"F[A-Z]\w*", element):
+            return "struct", element
+        raise self.error(item.line, f'unknown property type "{item.type}"')

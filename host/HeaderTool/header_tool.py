@@ -11,9 +11,12 @@ import argparse
 import json
 import re
 import sys
+import textwrap
 from pathlib import Path
 
 from header_reader import HeaderError, Reader
+
+PROPERTY_FLAGS = {"config": "CPF_Config", "editanywhere": "CPF_Edit"}
 
 
 def tool_tip(comment):
@@ -28,25 +31,16 @@ def tool_tip(comment):
         if is_starred:
             text = re.sub(r"^\s*\*", "", text)
         lines.append(text.replace("\t", "    ").rstrip())
-    while lines and not lines[0].strip():
-        lines.pop(0)
-    while lines and not lines[-1].strip():
-        lines.pop()
-    indents = [len(line) - len(line.lstrip()) for line in lines if line.strip()]
-    return "\n".join(line[min(indents):] for line in lines) if lines else ""
+    return textwrap.dedent("\n".join(lines)).strip("\n")
 
 
 def literal(text):
     """C++ source of a wide string."""
-    for old, new in (("\\", "\\\\"), ('"', '\\"'), ("\n", "\\n"), ("\t", "\\t")):
-        text = text.replace(old, new)
-    return f'TEXT("{text}")'
+    return f"TEXT({json.dumps(text, ensure_ascii=False)})"
 
 
-def metadata(comment, specifiers, extra):
-    pairs = dict(extra)
-    if comment:
-        pairs.update(Comment=comment + "\n", ToolTip=tool_tip(comment))
+def metadata(comment, specifiers):
+    pairs = {"ToolTip": tool_tip(comment)} if comment else {}
     if "category" in specifiers:
         pairs["Category"] = specifiers["category"]
     pairs.update(specifiers.get("meta") or {})
@@ -63,9 +57,6 @@ class Module:
     def relative(self, path):
         return Path(path).resolve().relative_to(self.source.resolve()).as_posix()
 
-    def include_path(self, path):
-        return re.sub(r"^(Public|Private|Classes)/", "", self.relative(path))
-
     def file_id(self, path):
         return "FID_" + self.name + "_" + re.sub(r"\W", "_", self.relative(path))
 
@@ -73,13 +64,13 @@ class Module:
         """All types that the owner names must be known to some module."""
         wanted = [(owner.base, owner.kind, owner.macro_line)] if owner.base else []
         for item in owner.properties:
-            kind = item.type.refers if item.type.kind == "FArrayProperty" else item.type
-            if kind.kind == "FArrayProperty":
-                raise reader.error(item.line, "an array of arrays is no property")
-            if "config" in item.specifiers and item.type.kind == "FObjectProperty":
+            kind, name = reader.referred(item)
+            if kind == "class" and "config" in item.specifiers:
                 raise reader.error(item.line, "Not allowed to use 'config' with object variables")
-            if kind.refers:
-                wanted.append((kind.refers, "class" if kind.kind == "FObjectProperty" else "struct", item.line))
+            if owner.kind == "struct" and item.type.startswith("TArray<"):
+                raise reader.error(item.line, "an array in a struct is not supported")
+            if name:
+                wanted.append((name, kind, item.line))
         for name, kind, line in wanted:
             if self.known.get(name) != kind:
                 raise reader.error(line, f'"{name}" is no reflected {kind} of this module or one that it depends on')
@@ -89,14 +80,8 @@ class Module:
         if owner.kind == "struct":
             return f"HOST_STRUCT_BODY({owner.name}, {self.api})"
         exported = f"{self.api} " if "minimalapi" in owner.specifiers else ""
-        has_constructor = bool(owner.declares & {"initializer", "default"})
-        body = f'HOST_CLASS_BODY({owner.name}, {owner.base}, TEXT("/Script/{self.name}"), {exported})'
-        body += "" if has_constructor else f" HOST_CONSTRUCTOR({owner.name})"
-        if "abstract" not in owner.specifiers:
-            argument = "" if owner.declares & {"default"} and "initializer" not in owner.declares else "Initializer"
-            body += f" HOST_MAKE({owner.name}, {argument})"
-        body += "" if "destructor" in owner.declares else f" virtual ~{owner.name}();"
-        return f"{body} {owner.body_access}:"
+        constructor = "" if owner.has_constructor else f" HOST_CONSTRUCTOR({owner.name})"
+        return f"HOST_CLASS_BODY({owner.name}, {owner.base}, {exported}){constructor} {owner.body_access}:"
 
     def generated_header(self, path, types):
         file_id = self.file_id(path)
@@ -104,62 +89,39 @@ class Module:
         for owner in types:
             kind = "CLASS" if owner.kind == "class" else "STRUCT"
             lines += [f"HOST_DECLARE_{kind}({owner.name}, {self.api})",
-                      f"#define {file_id}_{owner.macro_line}_PROLOG",
                       f"#define {file_id}_{owner.body_line}_GENERATED_BODY {self.body(owner)}"]
         return "\n".join(lines + ["#undef CURRENT_FILE_ID", f"#define CURRENT_FILE_ID {file_id}", ""])
 
-    def property_source(self, item, owner_name, path):
-        def make(kind, offset):
-            extra = ""
-            if kind.kind == "FObjectProperty":
-                extra = f", &{kind.refers}::StaticClass"
-            elif kind.kind == "FStructProperty":
-                extra = f", {kind.refers}::StaticStruct()"
-            elif kind.kind == "FArrayProperty":
-                extra = f", ArrayOperations<{kind.refers.cpp}>(), {make(kind.refers, '0')}"
-            return f"new {kind.kind}({literal(item.name)}, {offset}, Flags{extra})"
+    @staticmethod
+    def property_source(item, owner_name):
         flags = ["CPF_NativeAccessSpecifier" + item.access.capitalize()]
-        flags += ["CPF_Protected"] if item.access == "protected" else []
-        flags += ["CPF_Config"] if "config" in item.specifiers else []
-        flags += ["CPF_Edit"] if "editanywhere" in item.specifiers else []
-        flags += ["CPF_Transient"] if "transient" in item.specifiers else []
-        source = make(item.type, f"offsetof({owner_name}, {item.name})")
-        meta = metadata(item.comment, item.specifiers, {"ModuleRelativePath": self.relative(path)})
-        return ["\t\t{", f"\t\t\tconstexpr uint64 Flags = {' | '.join(flags)};",
-                f"\t\t\tHostReflection::AddProperty(Type, {source}, {meta});", "\t\t}"]
+        flags += [flag for name, flag in PROPERTY_FLAGS.items() if name in item.specifiers]
+        declaration = (f"{{{literal(item.name)}, {literal(item.type)}, offsetof({owner_name}, {item.name}), "
+                       f"{' | '.join(flags)}}}")
+        return (f"\t\tHostReflection::AddProperty<decltype({owner_name}::{item.name})>(Type, {declaration}, "
+                f"{metadata(item.comment, item.specifiers)});")
 
-    def type_source(self, owner, path):
+    def type_source(self, owner):
         name, is_class = owner.name, owner.kind == "class"
         kind = "UClass" if is_class else "UScriptStruct"
         identity = f'TEXT("/Script/{self.name}"), {literal(name[1:])}'
-        extra = {"ModuleRelativePath": self.relative(path)}
         if is_class:
-            extra["IncludePath"] = self.include_path(path)
-            config = owner.specifiers.get("config", "")
-            flags = ["CLASS_Native"] + (["CLASS_Config"] if config else []) + (["CLASS_RequiredAPI"] if owner.api else [])
-            flags += ["CLASS_" + text for text in ("Abstract", "MinimalAPI") if text.lower() in owner.specifiers]
-            constructor = "nullptr" if "abstract" in owner.specifiers else f"&{name}::__DefaultConstructor"
-            make = (f"NewClass({identity}, sizeof({name}), {' | '.join(flags)}, {literal(config)}, {constructor}, "
-                    f"{owner.base}::StaticClass())")
+            config = literal(owner.specifiers.get("config", ""))
+            make = f"NewClass({identity}, sizeof({name}), {config}, &HostReflection::Construct<{name}>, {owner.base}::StaticClass())"
         else:
-            make = f"NewStruct<{name}>({identity}, {owner.base + '::StaticStruct()' if owner.base else 'nullptr'})"
+            make = f"NewStruct({identity}, sizeof({name}), {owner.base + '::StaticStruct()' if owner.base else 'nullptr'})"
         lines = [f"struct Z_Construct_{kind}_{name}_Statics", "{", f"\tstatic {kind}* Make()", "\t{",
                  f"\t\t{kind}* Type = HostReflection::{make};",
-                 f"\t\tHostReflection::AddMetaData(Type, {metadata(owner.comment, owner.specifiers, extra)});"]
-        for item in owner.properties:
-            lines += self.property_source(item, name, path)
-        lines += ["\t\treturn Type;", "\t}", "};", f"HOST_DEFINE_{'CLASS' if is_class else 'STRUCT'}({name})"]
-        if is_class and not owner.declares & {"initializer", "default"}:
-            lines.append(f"{name}::{name}(const FObjectInitializer& ObjectInitializer) : Super(ObjectInitializer) {{}}")
-        if is_class and "destructor" not in owner.declares:
-            lines.append(f"{name}::~{name}() {{}}")
-        return lines
+                 f"\t\tHostReflection::AddMetaData(Type, {metadata(owner.comment, owner.specifiers)});"]
+        lines += [self.property_source(item, name) for item in owner.properties]
+        return lines + ["\t\treturn Type;", "\t}", "};", f"HOST_DEFINE_{'CLASS' if is_class else 'STRUCT'}({name})"]
 
     def source_file(self, path, types):
+        include = re.sub(r"^(Public|Private|Classes)/", "", self.relative(path))
         lines = ["// Written by the header tool; changes are lost.", '#include "UObject/GeneratedCppIncludes.h"',
-                 f'#include "{self.include_path(path)}"', "#include <cstddef>", ""]
+                 f'#include "{include}"', "#include <cstddef>", ""]
         for owner in types:
-            lines += self.type_source(owner, path) + [""]
+            lines += self.type_source(owner) + [""]
         makers = ", ".join(f"[]() -> UStruct* {{ return Z_Construct_{k}_{o.name}(); }}" for o in types
                            for k in ["UClass" if o.kind == "class" else "UScriptStruct"])
         file_id = self.file_id(path)

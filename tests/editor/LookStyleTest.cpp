@@ -68,8 +68,6 @@ TEST_F(LookStyle, WithoutThePluginsFolderTheSetIsRegisteredEmpty)
 {
 	struct FNoPlugins : IPluginManager
 	{
-		TSharedPtr<IPlugin> FindPlugin(const FStringView) override { return nullptr; }
-
 		TSharedPtr<IPlugin> FindPlugin(const ANSICHAR*) override { return nullptr; }
 	} NoPlugins;
 	const ImportOverride manager(

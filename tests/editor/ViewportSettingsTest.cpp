@@ -228,9 +228,6 @@ TEST_F(ViewportSettings, TypesAreAsTheEngineShowsThem)
 		EXPECT_TRUE(Property->HasAnyPropertyFlags(Row.Access));
 		EXPECT_TRUE(Property->GetMetaData("ToolTip").Equals(Row.ToolTip));
 	}
-	EXPECT_TRUE(dynamic_cast<const FArrayProperty*>(Class->FindPropertyByName("ViewportsSettings"))
-					->GetInner()
-					->HasAnyPropertyFlags(CPF_Config));
 	EXPECT_EQ(Pair->GetOwnProperties()[0]->GetFName(), FName("ViewportIdentifier"));
 	EXPECT_TRUE(Class->GetMetaData("ToolTip").Equals(
 		TEXT("List of Tonalith objects associated to level viewport instances linked with an identifier")));

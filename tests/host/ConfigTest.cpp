@@ -38,8 +38,8 @@ TEST_F(Config, EveryKindIsWrittenAsTheEngineWritesIt)
 {
 	UProbeSettings& Settings = StartWith("");
 	Settings.Share = 1e-7f;
-	Settings.Entries.Emplace();
-	Settings.Entries.Emplace();
+	Settings.Entries.Emplace_GetRef();
+	Settings.Entries.Emplace_GetRef();
 	Settings.Entries[0].Name = "it's \"A\\B\"_2";
 	Settings.Entries[1].Object = StaticLoadObject(UObject::StaticClass(), TEXT("/Game/Things/A.A"));
 	Settings.Entries[1].Inner.bFlag = false;
@@ -92,21 +92,4 @@ TEST_F(Config, AFileThatCannotBeWrittenIsReported)
 	std::filesystem::create_directories(File());
 	Settings.SaveConfig();
 	EXPECT_THAT(TakeLog("LogConfig"), testing::ElementsAre(testing::HasSubstr("could not be written")));
-}
-
-TEST_F(Config, ObjectsAreFoundByPathAndClass)
-{
-	StartWith("");
-	UClass* Class = static_cast<UClass*>(StaticFindObject(UClass::StaticClass(), TEXT("/Script/Probe.ProbeSettings")));
-	ASSERT_NE(Class, nullptr);
-	EXPECT_TRUE(Class->GetDefaultObject()->GetName().Equals(TEXT("Default__ProbeSettings")));
-	UObject* Object = StaticLoadObject(Class, TEXT("/Game/Things/A.A"));
-	ASSERT_NE(Object, nullptr);
-	EXPECT_TRUE(Object->GetPathName().Equals(TEXT("/Game/Things/A.A")));
-	EXPECT_EQ(StaticFindObject(UClass::StaticClass(), TEXT("/Game/Things/A.A")), nullptr);
-	EXPECT_EQ(StaticLoadObject(UObject::StaticClass(), TEXT("/Game/Things/B.B")), nullptr);
-	UObject* Unnamed = NewObject<UObject>(GetTransientPackage(), Class);
-	EXPECT_TRUE(Unnamed->GetName().Equals(TEXT("ProbeSettings_0")));
-	EXPECT_TRUE(Unnamed->IsA(UObject::StaticClass()));
-	EXPECT_EXIT(NewObject<UClass>(GetTransientPackage(), Class), testing::ExitedWithCode(3), "ProbeSettings");
 }

@@ -1,11 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "CoreMinimal.h"
-#include "Misc/OutputDevice.h"
-#include "Misc/OutputDeviceRedirector.h"
+#include "EditorTest.h"
 
 #include <functional>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <stdexcept>
 
 using testing::ElementsAre;
@@ -17,14 +13,11 @@ namespace
 {
 DECLARE_MULTICAST_DELEGATE_OneParam(FOnEvent, int32);
 DECLARE_DELEGATE_RetVal_OneParam(int32, FAnswer, int32);
-DECLARE_EVENT(FOwner, FNamedEvent);
-
-using FCalls = std::vector<std::string>;
 
 /** Writes its name down when it is called, then does what it is told to. */
 struct FListener : TSharedFromThis<FListener>
 {
-	FListener(FCalls& InCalls, std::string InName) : Calls(InCalls), Name(std::move(InName)) {}
+	FListener(FLines& InCalls, std::string InName) : Calls(InCalls), Name(std::move(InName)) {}
 
 	void OnEvent(int32)
 	{
@@ -38,32 +31,24 @@ struct FListener : TSharedFromThis<FListener>
 
 	void OnConstEvent(int32) const { Calls.push_back(Name + " const"); }
 	void OnEventWithPayload(int32 Value, int32 A, std::string B) { Calls.push_back(B + std::to_string(Value + A)); }
-	void OnReference(const int32&) {}
 
-	FCalls& Calls;
+	FLines& Calls;
 	std::string Name;
 	std::string Suffix;
 	std::function<void()> Then;
 };
 
-template <typename MethodType>
-concept CIsHandler = requires(FListener& Listener, MethodType Method)
-{
-	FOnEvent().AddRaw(&Listener, Method);
-};
-
-static_assert(CIsHandler<void (FListener::*)(int32)>);
-static_assert(CIsHandler<void (FListener::*)(int32) const>);
-static_assert(std::is_constructible_v<TMethodPtr<FListener, void(int32)>, void (FListener::*)(const int32)>);
-static_assert(!std::is_constructible_v<TMethodPtr<FListener, void(int32)>, void (FListener::*)(const int32&)>);
-static_assert(!std::is_constructible_v<TMethodPtr<FListener, void(int32)>, void (FListener::*)()>);
-static_assert(!std::is_constructible_v<TMethodPtr<const FListener, void(int32)>, void (FListener::*)(int32)>);
+static_assert(CMethodOf<void (FListener::*)(int32), FListener, void, int32>);
+static_assert(CMethodOf<void (FListener::*)(int32) const, const FListener, void, int32>);
+static_assert(!CMethodOf<void (FListener::*)(int32), const FListener, void, int32>);
+static_assert(!CMethodOf<void (FListener::*)(const int32&), FListener, void, int32>);
+static_assert(!CMethodOf<void (FListener::*)(), FListener, void, int32>);
 } // namespace
 
-class FDelegates : public testing::Test
+class FDelegates : public FEditorTest
 {
 protected:
-	FCalls Broadcast()
+	FLines Broadcast()
 	{
 		Calls.clear();
 		Event.Broadcast(1);
@@ -71,7 +56,7 @@ protected:
 	}
 
 	FOnEvent Event;
-	FCalls Calls;
+	FLines Calls;
 	FListener A{Calls, "A"};
 	FListener B{Calls, "B"};
 	FListener C{Calls, "C"};
@@ -82,28 +67,12 @@ TEST_F(FDelegates, BroadcastCallsTheLastAddedFirstAndTwiceWhatWasAddedTwice)
 	Event.AddRaw(&A, &FListener::OnEvent);
 	Event.AddRaw(const_cast<const FListener*>(&B), &FListener::OnConstEvent);
 	Event.AddRaw(&A, &FListener::OnEvent);
-	Event.AddRaw(&C, &FListener::OnEventWithPayload, 10, std::string("payload "));
+	Event.Add(FOnEvent::FDelegate::CreateRaw(&C, &FListener::OnEventWithPayload, 10, std::string("payload ")));
+	EXPECT_FALSE(Event.Add(FOnEvent::FDelegate()).IsValid()) << "unbound delegates are not added";
 	EXPECT_THAT(Broadcast(), ElementsAre("payload 11", "A", "B const", "A"));
 }
 
-TEST_F(FDelegates, WhatIsAddedDuringABroadcastWaitsForTheNext)
-{
-	Event.AddRaw(&A, &FListener::OnEvent);
-	Event.AddRaw(&B, &FListener::OnEvent);
-	B.Then = [this]
-	{
-		// Enough to make the entries move.
-		for (int32 Count = 0; Count < 20; ++Count)
-		{
-			Event.AddRaw(&C, &FListener::OnEvent);
-		}
-		B.Then = nullptr;
-	};
-	EXPECT_THAT(Broadcast(), ElementsAre("B", "A"));
-	EXPECT_EQ(Broadcast().size(), 22u);
-}
-
-TEST_F(FDelegates, WhatIsRemovedDuringABroadcastIsNotCalled)
+TEST_F(FDelegates, ChangesDuringABroadcast)
 {
 	Event.AddRaw(&A, &FListener::OnEvent);
 	const FDelegateHandle HandleB = Event.AddRaw(&B, &FListener::OnEvent);
@@ -112,88 +81,53 @@ TEST_F(FDelegates, WhatIsRemovedDuringABroadcastIsNotCalled)
 	{
 		EXPECT_TRUE(Event.Remove(HandleC)) << "its own binding";
 		EXPECT_TRUE(Event.Remove(HandleB));
-		EXPECT_FALSE(Event.Remove(HandleB));
+		EXPECT_FALSE(Event.Remove(HandleB) || Event.Remove(FDelegateHandle()) || FOnEvent().Remove(HandleB));
 		Event.Broadcast(2);
+		// Enough to make the entries move.
+		for (int32 Count = 0; Count < 20; ++Count)
+		{
+			Event.AddRaw(&B, &FListener::OnEvent);
+		}
 	};
 	EXPECT_THAT(Broadcast(), ElementsAre("C", "A", "A")) << "the inner broadcast and the rest of the outer one";
-	EXPECT_THAT(Broadcast(), ElementsAre("A"));
+	EXPECT_EQ(Broadcast().size(), 21u);
 }
 
-TEST_F(FDelegates, RemoveAllWhileIdleFillsHolesFromTheEndAndCountsTheDead)
+TEST_F(FDelegates, RemoveAllCountsTheDeadWhileIdle)
 {
 	TSharedPtr<FListener> Mortal = MakeShared<FListener>(Calls, "mortal");
 	Event.AddRaw(&A, &FListener::OnEvent);
 	Event.AddRaw(&B, &FListener::OnEvent);
-	Event.AddSP(Mortal.ToSharedRef(), &FListener::OnEvent);
+	Event.Add(FOnEvent::FDelegate::CreateSP(Mortal.ToSharedRef(), &FListener::OnEvent));
 	Event.AddRaw(&C, &FListener::OnEvent);
 	Mortal.Reset();
 	EXPECT_EQ(Event.RemoveAll(&A), 2);
-	EXPECT_THAT(Broadcast(), ElementsAre("B", "C"));
-	EXPECT_EQ(Event.RemoveAll(&A), 0);
-	Event.Clear();
-	EXPECT_FALSE(Event.IsBound());
-}
-
-TEST_F(FDelegates, RemoveAllDuringABroadcastOnlyUnbinds)
-{
-	TSharedPtr<FListener> Mortal = MakeShared<FListener>(Calls, "mortal");
-	Event.AddRaw(&A, &FListener::OnEvent);
-	Event.AddRaw(&B, &FListener::OnEvent);
-	Event.AddSP(Mortal.ToSharedRef(), &FListener::OnEvent);
-	Event.AddRaw(&A, &FListener::OnEvent);
-	Event.AddRaw(&C, &FListener::OnEvent);
+	EXPECT_THAT(Broadcast(), ElementsAre("B", "C")) << "the last entries fill the holes";
 	C.Then = [&]
 	{
-		Mortal.Reset();
-		EXPECT_EQ(Event.RemoveAll(&A), 2) << "the dead are not counted";
-		EXPECT_FALSE(Event.IsBoundToObject(&A));
+		EXPECT_EQ(Event.RemoveAll(&C), 1);
+		EXPECT_TRUE(Event.IsBoundToObject(&B) && !Event.IsBoundToObject(&C));
 	};
-	EXPECT_THAT(Broadcast(), ElementsAre("C", "B"));
-	EXPECT_EQ(Event.RemoveAll(nullptr), 0) << "the broadcast dropped the dead";
+	Event.AddRaw(&A, &FListener::OnEvent);
+	EXPECT_THAT(Broadcast(), ElementsAre("A", "B", "C"));
+	EXPECT_EQ(Event.RemoveAll(nullptr), 0);
 }
 
-TEST_F(FDelegates, SharedObjectsAreWatchedAndLiveThroughTheCall)
+TEST_F(FDelegates, ACallMayUnbindItsDelegateOrDropItsObject)
 {
 	TSharedPtr<FListener> Mortal = MakeShared<FListener>(Calls, "mortal");
-	const FOnEvent::FDelegate Delegate = FOnEvent::FDelegate::CreateSP(Mortal.Get(), &FListener::OnEvent);
-	Event.Add(Delegate);
+	Event.Add(FOnEvent::FDelegate::CreateSP(Mortal.Get(), &FListener::OnEvent));
 	Mortal->Suffix = " to the end";
 	Mortal->Then = [&] { Mortal.Reset(); };
 	EXPECT_THAT(Broadcast(), ElementsAre("mortal to the end"));
-	EXPECT_FALSE(Delegate.IsBound());
-	EXPECT_FALSE(Delegate.ExecuteIfBound(1));
 	EXPECT_THAT(Broadcast(), IsEmpty());
-}
-
-TEST_F(FDelegates, HandlesNameOneBindingEach)
-{
-	EXPECT_FALSE(FDelegateHandle().IsValid());
-	EXPECT_FALSE(Event.Add(FOnEvent::FDelegate()).IsValid());
-	EXPECT_FALSE(Event.IsBound()) << "unbound delegates are not added";
-	const FOnEvent::FDelegate Delegate = FOnEvent::FDelegate::CreateRaw(&A, &FListener::OnEvent);
-	const FDelegateHandle First = Event.Add(Delegate);
-	const FDelegateHandle Second = Event.Add(Delegate);
-	EXPECT_TRUE(First.IsValid());
-	EXPECT_NE(First, Second);
-	EXPECT_FALSE(FOnEvent().Remove(First)) << "of another event";
-	EXPECT_TRUE(Event.Remove(First));
-	EXPECT_FALSE(Event.Remove(First));
-	EXPECT_FALSE(Event.Remove(FDelegateHandle()));
-	EXPECT_THAT(Broadcast(), ElementsAre("A"));
-}
-
-TEST_F(FDelegates, SingleDelegatesAnswer)
-{
-	FAnswer Answer;
-	EXPECT_FALSE(Answer.IsBound());
-	Answer.BindLambda([](int32 Value, int32 Factor) { return Value * Factor; }, 3);
-	EXPECT_EQ(Answer.Execute(14), 42);
-	Answer.BindStatic(+[](int32 Value) { return -Value; });
+	FAnswer Answer = FAnswer::CreateStatic(
+		+[](int32 Value, int32 Factor) { return Value * Factor; }, 3);
 	const FAnswer Copy = Answer;
-	Answer.BindLambda([&Answer](int32 Value) { return Answer.Unbind(), Value + 1; });
-	EXPECT_EQ(Answer.Execute(1), 2) << "a call may unbind its own delegate";
+	Answer = FAnswer::CreateLambda([&Answer](int32 Value) { return Answer = FAnswer(), Value + 1; });
+	EXPECT_EQ(Answer.Execute(1), 2);
 	EXPECT_FALSE(Answer.IsBound());
-	EXPECT_EQ(Copy.Execute(5), -5);
+	EXPECT_EQ(Copy.Execute(14), 42);
 }
 
 TEST_F(FDelegates, MisuseIsFatal)
@@ -203,35 +137,4 @@ TEST_F(FDelegates, MisuseIsFatal)
 	FListener* NoObject = nullptr;
 	EXPECT_EXIT(Event.AddRaw(NoObject, &FListener::OnEvent), ExitedWithCode(3), HasSubstr(NullText));
 	EXPECT_EXIT(Event.AddRaw(&A, NoMethod), ExitedWithCode(3), HasSubstr(NullText));
-	A.Then = [] { throw std::runtime_error("from a handler"); };
-	Event.AddRaw(&A, &FListener::OnEvent);
-	EXPECT_EXIT(Event.Broadcast(1), ExitedWithCode(3), HasSubstr("from a handler"));
-}
-
-TEST_F(FDelegates, NamedEventsAreTraced)
-{
-	struct FTraceDevice : FOutputDevice
-	{
-		explicit FTraceDevice(FCalls& InLines) : Lines(InLines) { GLog->AddOutputDevice(this); }
-		~FTraceDevice() override { GLog->RemoveOutputDevice(this); }
-
-		void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override
-		{
-			EXPECT_TRUE(Category == "LogHostTrace" && Verbosity == ELogVerbosity::Log);
-			Lines.push_back(TCHAR_TO_UTF8(V));
-		}
-
-		FCalls& Lines;
-	};
-	const FTraceDevice Device(Calls);
-	FNamedEvent Named(TEXT("UThing::OnChanged"));
-	Named.AddLambda([this] { Calls.push_back("called"); });
-	const FDelegateHandle Handle = Named.AddLambda([] {});
-	Named.Broadcast();
-	Named.RemoveAll(&A);
-	Named.Remove(Handle);
-	Named.Remove(Handle);
-	EXPECT_THAT(
-		Calls, ElementsAre("bind UThing::OnChanged", "bind UThing::OnChanged", "broadcast UThing::OnChanged", "called",
-				   "unbind UThing::OnChanged (0)", "unbind UThing::OnChanged (1)", "unbind UThing::OnChanged (0)"));
 }

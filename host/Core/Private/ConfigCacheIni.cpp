@@ -11,80 +11,74 @@ FConfigCacheIni* GConfig = &ConfigCache;
 
 namespace
 {
-FString Trim(const std::wstring& Text)
+FString Trim(const FString& Text)
 {
-	const size_t Begin = Text.find_first_not_of(L" \t\r");
-	return Begin == std::wstring::npos
-			   ? FString()
-			   : FString(Text.substr(Begin, Text.find_last_not_of(L" \t\r") + 1 - Begin).c_str());
+	const std::wstring_view View(*Text);
+	const size_t Begin = std::min(View.find_first_not_of(L" \t\r"), View.size());
+	const size_t End = View.find_last_not_of(L" \t\r") + 1;
+	return Text.Mid(static_cast<int32>(Begin), static_cast<int32>(End - Begin));
 }
 
-/** A value that is quoted as a whole loses its quotes. */
-FString Unquoted(const FString& Value)
+/** Without the characters around it, if both are there. */
+FString Unwrap(const FString& Text, const TCHAR* First, const TCHAR* Last)
 {
-	return Value.StartsWith(TEXT("\"")) && Value.EndsWith(TEXT("\"")) && Value.Len() > 1 ? Value.Mid(1, Value.Len() - 2)
-																						 : Value;
-}
-
-bool IsSection(const FString& Line)
-{
-	return Line.StartsWith(TEXT("[")) && Line.EndsWith(TEXT("]"));
+	const bool bIsWrapped = Text.Len() > 1 && Text.StartsWith(First) && Text.EndsWith(Last);
+	return bIsWrapped ? Text.Mid(1, Text.Len() - 2) : Text;
 }
 } // namespace
 
-FConfigCacheIni::FFile& FConfigCacheIni::Open(const FString& Filename)
+FConfigCacheIni::FFile FConfigCacheIni::Read(const FString& Filename)
 {
-	TSharedPtr<FFile>& File = Files.FindOrAdd(Filename);
-	if (File.IsValid())
+	FFile File;
+	FString Section;
+	const auto EndSection = [&File, &Section]
 	{
-		return *File;
-	}
-	File = MakeShared<FFile>();
-	File->Add(FSection());
+		if (!Section.IsEmpty() && !File.back().Text.IsEmpty())
+		{
+			File.push_back({FString(), Section});
+		}
+	};
 	std::ifstream Stream{std::filesystem::path(*Filename), std::ios::binary};
 	for (std::string Bytes; std::getline(Stream, Bytes);)
 	{
-		if (File->Num() == 1 && (*File)[0].Lines.IsEmpty() && Bytes.starts_with("\xEF\xBB\xBF"))
+		const bool bHasMark = File.empty() && Bytes.starts_with("\xEF\xBB\xBF");
+		const FString Text = Trim(UTF8_TO_TCHAR(Bytes.c_str() + (bHasMark ? 3 : 0)));
+		if (const FString Name = Unwrap(Text, TEXT("["), TEXT("]")); Name.Len() < Text.Len())
 		{
-			Bytes.erase(0, 3);
+			EndSection();
+			Section = Name;
 		}
-		const FString Line = Trim(UTF8_TO_TCHAR(Bytes.c_str()));
-		if (IsSection(Line))
-		{
-			File->Add({Line.Mid(1, Line.Len() - 2), {}});
-			continue;
-		}
+		FLine& Line = File.emplace_back(FLine{Text, Section});
 		// Neither "+" nor any other prefix means anything here: it is part of the key.
-		const int32 Equals = Line.StartsWith(TEXT(";")) ? INDEX_NONE : Line.Find(TEXT("="));
-		FLine Parsed;
-		Parsed.Text = Line;
+		const int32 Equals = Text.StartsWith(TEXT(";")) ? INDEX_NONE : Text.Find(TEXT("="));
 		if (Equals != INDEX_NONE)
 		{
-			Parsed.Key = Trim(*Line.Mid(0, Equals));
-			Parsed.Value = Unquoted(Trim(*Line.Mid(Equals + 1)));
+			Line.Key = Trim(Text.Mid(0, Equals));
+			Line.Value = Unwrap(Trim(Text.Mid(Equals + 1)), TEXT("\""), TEXT("\""));
 		}
-		File->Last().Lines.Add(Parsed);
 	}
-	return *File;
+	EndSection();
+	return File;
 }
 
-FConfigCacheIni::FSection* FConfigCacheIni::FindSection(FFile& File, const TCHAR* Name)
+FConfigCacheIni::FFile& FConfigCacheIni::Open(const FString& Filename)
 {
-	return File.FindByPredicate([Name](const FSection& Section) { return Section.Name == FString(Name); });
+	if (!Files.Contains(Filename))
+	{
+		Files.Add(Filename, Read(Filename));
+	}
+	return *Files.Find(Filename);
 }
 
 int32 FConfigCacheIni::GetArray(
 	const TCHAR* Section, const TCHAR* Key, TArray<FString>& OutValues, const FString& Filename)
 {
 	OutValues.Empty();
-	if (const FSection* Found = FindSection(Open(Filename), Section))
+	for (const FLine& Line : Open(Filename))
 	{
-		for (const FLine& Line : Found->Lines)
+		if (Line.Section == Section && Line.Key == Key)
 		{
-			if (Line.Key == FString(Key))
-			{
-				OutValues.Add(Line.Value);
-			}
+			OutValues.Add(Line.Value);
 		}
 	}
 	return OutValues.Num();
@@ -94,76 +88,37 @@ void FConfigCacheIni::SetArray(
 	const TCHAR* Section, const TCHAR* Key, const TArray<FString>& Values, const FString& Filename)
 {
 	FFile& File = Open(Filename);
-	FSection* Found = FindSection(File, Section);
-	if (!Found)
+	const auto IsOurs = [&](const FLine& Line) { return Line.Section == Section && Line.Key == Key; };
+	const auto IsText = [&](const FLine& Line) { return Line.Section == Section && !Line.Text.IsEmpty(); };
+	if (std::none_of(File.begin(), File.end(), IsText))
 	{
-		File.Add({Section, {}});
-		Found = &File.Last();
+		File.push_back({FString(TEXT("[")) + Section + TEXT("]"), Section});
+		File.push_back({FString(), Section});
 	}
-	const auto AddValues = [&](TArray<FLine>& Lines)
+	// A new key goes before the empty lines that part its section from the next.
+	const auto First = std::find_if(File.begin(), File.end(), IsOurs);
+	const auto Last = std::find_if(File.rbegin(), File.rend(), IsText).base();
+	const auto Place = (First != File.end() ? First : Last) - File.begin();
+	File.erase(std::remove_if(File.begin() + Place, File.end(), IsOurs), File.end());
+	FFile Lines;
+	for (const FString& Value : Values)
 	{
-		for (const FString& Value : Values)
-		{
-			Lines.Add({Key, Value, FString(Key) + TEXT("=") + Value});
-		}
-	};
-	TArray<FLine> Lines;
-	bool bAdded = false;
-	for (const FLine& Line : Found->Lines)
-	{
-		const bool bIsOurs = Line.Key == FString(Key);
-		if (bIsOurs && !bAdded)
-		{
-			AddValues(Lines);
-			bAdded = true;
-		}
-		if (!bIsOurs)
-		{
-			Lines.Add(Line);
-		}
+		Lines.push_back({FString(Key) + TEXT("=") + Value, Section, Key, Value});
 	}
-	if (!bAdded)
-	{
-		// Before the empty lines that part this section from the next.
-		TArray<FLine> Tail;
-		while (!Lines.IsEmpty() && Lines.Last().Text.IsEmpty())
-		{
-			Tail.Add(Lines.Last());
-			Lines.RemoveAt(Lines.Num() - 1);
-		}
-		AddValues(Lines);
-		for (const FLine& Line : Tail)
-		{
-			Lines.Add(Line);
-		}
-	}
-	Found->Lines = Lines;
+	File.insert(File.begin() + Place, Lines.begin(), Lines.end());
 }
 
 void FConfigCacheIni::Flush(bool bRemoveFromCache, const FString& Filename)
 {
-	std::string Text;
-	for (const FSection& Section : Open(Filename))
-	{
-		if (!Section.Name.IsEmpty())
-		{
-			Text += TCHAR_TO_UTF8(*(TEXT("[") + Section.Name + TEXT("]\r\n")));
-		}
-		for (const FLine& Line : Section.Lines)
-		{
-			Text += TCHAR_TO_UTF8(*(Line.Text + TEXT("\r\n")));
-		}
-		// One empty line ends a section.
-		if (!Section.Name.IsEmpty() && (Section.Lines.IsEmpty() || !Section.Lines.Last().Text.IsEmpty()))
-		{
-			Text += "\r\n";
-		}
-	}
 	const std::filesystem::path Path(*Filename);
 	std::error_code Ignored;
 	std::filesystem::create_directories(Path.parent_path(), Ignored);
-	std::ofstream Stream(Path, std::ios::binary | std::ios::trunc);
-	if (!Stream.write(Text.data(), static_cast<std::streamsize>(Text.size())).flush())
+	std::ofstream Stream(Path, std::ios::binary);
+	for (const FLine& Line : Open(Filename))
+	{
+		Stream << TCHAR_TO_UTF8(*Line.Text) << "\r\n";
+	}
+	if (!Stream.flush())
 	{
 		UE_LOG(LogConfig, Warning, TEXT("%s could not be written"), *Filename);
 	}

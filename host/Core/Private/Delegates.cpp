@@ -5,10 +5,12 @@
 
 #include <atomic>
 
-FDelegateHandle::FDelegateHandle(EGenerateNewHandleType)
+FDelegateHandle FDelegateHandle::New()
 {
 	static std::atomic<uint64> LastID = 0;
-	ID = ++LastID;
+	FDelegateHandle Handle;
+	Handle.ID = ++LastID;
+	return Handle;
 }
 
 FSimpleMulticastDelegate FCoreDelegates::OnFEngineLoopInitComplete(TEXT("FCoreDelegates::OnFEngineLoopInitComplete"));

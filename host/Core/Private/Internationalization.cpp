@@ -3,20 +3,10 @@
 
 #include "Host/Culture.h"
 #include "Internationalization/Culture.h"
-#include "Internationalization/Text.h"
 
-FCulture::FCulture(const FString& InName) : Language(InName)
+namespace
 {
-	const int32 Region = InName.Find(TEXT("-"));
-	if (Region != INDEX_NONE)
-	{
-		Language = InName.Mid(0, Region);
-	}
-}
-
-const FString& FCulture::GetTwoLetterISOLanguageName() const
-{
-	return Language;
+TSharedPtr<FCulture> Current;
 }
 
 FInternationalization& FInternationalization::Get()
@@ -25,23 +15,17 @@ FInternationalization& FInternationalization::Get()
 	return Instance;
 }
 
-struct FCultureSetter
+FCultureRef FInternationalization::GetCurrentCulture() const
 {
-	static void Set(const FCulturePtr& Culture) { FInternationalization::Get().CurrentLanguage = Culture; }
-};
+	return Current.ToSharedRef();
+}
 
 void HostCulture::Set(const FString& Name)
 {
-	FCultureSetter::Set(MakeShared<FCulture>(Name));
+	Current = MakeShared<FCulture>(Name);
 }
 
 void HostCulture::Clear()
 {
-	FCultureSetter::Set(nullptr);
-}
-
-const FText& FText::GetEmpty()
-{
-	static const FText Empty;
-	return Empty;
+	Current.Reset();
 }

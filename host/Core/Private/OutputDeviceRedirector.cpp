@@ -29,12 +29,3 @@ void FOutputDeviceRedirector::Serialize(const TCHAR* V, ELogVerbosity::Type Verb
 		Device->Serialize(V, Verbosity, Category);
 	}
 }
-
-void FOutputDeviceRedirector::Flush()
-{
-	const FScopeLock Scope(&Lock);
-	for (FOutputDevice* Device : Devices)
-	{
-		Device->Flush();
-	}
-}

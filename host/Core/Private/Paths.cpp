@@ -8,43 +8,29 @@
 namespace
 {
 /** Empty, or ends with "/". */
-FString& ProjectFolder()
-{
-	static FString Folder;
-	return Folder;
-}
+FString ProjectFolder;
 } // namespace
 
 void HostProject::SetFolder(const FString& Folder)
 {
-	const FString Path = Folder.Replace(TEXT("\\"), TEXT("/"));
-	ProjectFolder() = Path.EndsWith(TEXT("/")) ? Path : Path + TEXT("/");
-}
-
-FString FPaths::ProjectDir()
-{
-	return ProjectFolder();
+	const FString Path = std::filesystem::path(*Folder).generic_wstring().c_str();
+	ProjectFolder = Path.EndsWith(TEXT("/")) ? Path : Path + TEXT("/");
 }
 
 FString FPaths::ProjectContentDir()
 {
-	return ProjectDir() + TEXT("Content/");
+	return ProjectFolder + TEXT("Content/");
 }
 
 FString FPaths::ProjectSavedDir()
 {
-	return ProjectDir() + TEXT("Saved/");
-}
-
-FString FPaths::ProjectLogDir()
-{
-	return ProjectSavedDir() + TEXT("Logs/");
+	return ProjectFolder + TEXT("Saved/");
 }
 
 FString FPaths::GetPath(const FString& Path)
 {
-	const int32 Slash = Path.Find(TEXT("/"), ESearchCase::CaseSensitive, ESearchDir::FromEnd);
-	return Path.Mid(0, Slash == INDEX_NONE ? 0 : Slash);
+	const size_t Slash = std::wstring_view(*Path).rfind(TEXT('/'));
+	return Path.Mid(0, Slash == std::wstring_view::npos ? 0 : static_cast<int32>(Slash));
 }
 
 bool FPaths::FileExists(const FString& Path)

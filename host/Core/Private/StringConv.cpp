@@ -1,53 +1,39 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Containers/StringConv.h"
 
-#include <cstring>
-#include <cwchar>
+#include <string_view>
 #include <windows.h>
 
 namespace
 {
-int32 Convert(const TCHAR* Source, int32 SourceLen, ANSICHAR* Target, int32 TargetLen)
+std::string ToUtf8(std::wstring_view Source)
 {
-	return WideCharToMultiByte(CP_UTF8, 0, Source, SourceLen, Target, TargetLen, nullptr, nullptr);
+	const auto Convert = [Length = static_cast<int32>(Source.size()), &Source](char* Target, int32 Size)
+	{ return WideCharToMultiByte(CP_UTF8, 0, Source.data(), Length, Target, Size, nullptr, nullptr); };
+	std::string Target(static_cast<size_t>(Convert(nullptr, 0)), '\0');
+	Convert(Target.data(), static_cast<int32>(Target.size()));
+	return Target;
 }
 
-int32 Convert(const ANSICHAR* Source, int32 SourceLen, TCHAR* Target, int32 TargetLen)
+std::wstring ToWide(std::string_view Source)
 {
-	return MultiByteToWideChar(CP_UTF8, 0, Source, SourceLen, Target, TargetLen);
-}
-
-/** The conversion, then the given end. */
-template <typename To, typename From>
-std::vector<To> Convert(const From* Source, int32 SourceLen, To End)
-{
-	// The calls refuse empty input.
-	const int32 Size = SourceLen > 0 ? Convert(Source, SourceLen, nullptr, 0) : 0;
-	std::vector<To> Target(static_cast<size_t>(Size) + 1, End);
-	if (Size > 0)
-	{
-		Convert(Source, SourceLen, Target.data(), Size);
-	}
+	const auto Convert = [Length = static_cast<int32>(Source.size()), &Source](wchar_t* Target, int32 Size)
+	{ return MultiByteToWideChar(CP_UTF8, 0, Source.data(), Length, Target, Size); };
+	std::wstring Target(static_cast<size_t>(Convert(nullptr, 0)), L'\0');
+	Convert(Target.data(), static_cast<int32>(Target.size()));
 	return Target;
 }
 } // namespace
 
-FTCHARToUTF8::FTCHARToUTF8(const TCHAR* Source)
-{
-	Buffer = Convert(Source, Source ? static_cast<int32>(std::wcslen(Source)) : 0, '\0');
-}
-
-FTCHARToUTF8::FTCHARToUTF8(const TCHAR* Source, int32 SourceLen)
-{
-	Buffer = Convert(Source, SourceLen, '#');
-}
+FTCHARToUTF8::FTCHARToUTF8(const TCHAR* Source) : Buffer(ToUtf8(Source ? Source : TEXT(""))) {}
 
 FUTF8ToTCHAR::FUTF8ToTCHAR(const ANSICHAR* Source)
+	: Buffer(ToWide(Source ? Source : "")), ResultLength(static_cast<int32>(Buffer.size()))
 {
-	Buffer = Convert(Source, Source ? static_cast<int32>(std::strlen(Source)) : 0, TEXT('\0'));
 }
 
 FUTF8ToTCHAR::FUTF8ToTCHAR(const ANSICHAR* Source, int32 SourceLen)
+	: Buffer(ToWide({Source, static_cast<size_t>(SourceLen)})), ResultLength(static_cast<int32>(Buffer.size()))
 {
-	Buffer = Convert(Source, SourceLen, TEXT('#'));
+	Buffer += TEXT('#');
 }

@@ -1,29 +1,9 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Containers/UnrealString.h"
 
-#include "Misc/Char.h"
-
 #include <algorithm>
 #include <cstdarg>
 #include <cstdio>
-
-namespace
-{
-TCHAR Fold(TCHAR Char, ESearchCase::Type SearchCase)
-{
-	return SearchCase == ESearchCase::IgnoreCase ? FChar::ToLower(Char) : Char;
-}
-
-auto SameChar(ESearchCase::Type SearchCase)
-{
-	return [SearchCase](TCHAR A, TCHAR B) { return Fold(A, SearchCase) == Fold(B, SearchCase); };
-}
-
-bool IsSlash(TCHAR Char)
-{
-	return Char == TEXT('/') || Char == TEXT('\\');
-}
-} // namespace
 
 FString FString::PrintfImpl(const TCHAR* Format, ...)
 {
@@ -40,7 +20,8 @@ FString FString::PrintfImpl(const TCHAR* Format, ...)
 
 FString& FString::operator/=(FStringView Other)
 {
-	if (IsEmpty() || Other.IsEmpty())
+	const auto IsSlash = [](TCHAR Char) { return Char == TEXT('/') || Char == TEXT('\\'); };
+	if (IsEmpty() || Other.Len() == 0)
 	{
 		return *this += Other;
 	}
@@ -55,37 +36,10 @@ FString& FString::operator/=(FStringView Other)
 	return *this += Other;
 }
 
-bool FString::Equals(const FString& Other, ESearchCase::Type SearchCase) const
+int32 FString::Find(FStringView Text) const
 {
-	return std::equal(Data.begin(), Data.end(), Other.Data.begin(), Other.Data.end(), SameChar(SearchCase));
-}
-
-int32 FString::Compare(const FString& Other, ESearchCase::Type SearchCase) const
-{
-	return SearchCase == ESearchCase::IgnoreCase ? ToLower().Data.compare(Other.ToLower().Data)
-												 : Data.compare(Other.Data);
-}
-
-int32 FString::Find(FStringView Text, ESearchCase::Type SearchCase, ESearchDir::Type SearchDir) const
-{
-	const auto Search = [&](auto Algorithm)
-	{
-		const auto Found = Algorithm(Data.begin(), Data.end(), Text.begin(), Text.end(), SameChar(SearchCase));
-		return Text.IsEmpty() || Found == Data.end() ? INDEX_NONE : static_cast<int32>(Found - Data.begin());
-	};
-	return SearchDir == ESearchDir::FromStart ? Search([](auto... A) { return std::search(A...); })
-											  : Search([](auto... A) { return std::find_end(A...); });
-}
-
-bool FString::StartsWith(FStringView Prefix, ESearchCase::Type SearchCase) const
-{
-	return Prefix.Len() <= Len() && std::equal(Prefix.begin(), Prefix.end(), Data.begin(), SameChar(SearchCase));
-}
-
-bool FString::EndsWith(FStringView Suffix, ESearchCase::Type SearchCase) const
-{
-	return Suffix.Len() <= Len() &&
-		   std::equal(Suffix.begin(), Suffix.end(), Data.end() - Suffix.Len(), SameChar(SearchCase));
+	const size_t Found = ToLower().Data.find(FString(Text).ToLower().Data);
+	return Text.Len() == 0 || Found == std::wstring::npos ? INDEX_NONE : static_cast<int32>(Found);
 }
 
 FString FString::Mid(int32 Start, int32 Count) const
@@ -98,21 +52,11 @@ FString FString::Mid(int32 Start, int32 Count) const
 FString FString::ToLower() const
 {
 	FString Lower = *this;
-	std::transform(Data.begin(), Data.end(), Lower.Data.begin(), FChar::ToLower);
-	return Lower;
-}
-
-FString FString::Replace(FStringView From, FStringView To, ESearchCase::Type SearchCase) const
-{
-	FString Replaced;
-	FString Rest = *this;
-	for (int32 Index = Rest.Find(From, SearchCase); Index != INDEX_NONE; Index = Rest.Find(From, SearchCase))
+	for (TCHAR& Char : Lower.Data)
 	{
-		Replaced += Rest.Mid(0, Index);
-		Replaced += To;
-		Rest = Rest.Mid(Index + From.Len());
+		Char += Char >= TEXT('A') && Char <= TEXT('Z') ? TEXT('a') - TEXT('A') : 0;
 	}
-	return Replaced + Rest;
+	return Lower;
 }
 
 uint32 GetTypeHash(const FString& String)

@@ -14,30 +14,30 @@
 #include "Misc/Paths.h"
 #include "ToolMenus.h"
 
-#include <exception>
+#include <stdexcept>
 
 namespace
 {
 /** Says what came out of a module before the process ends; nothing is unwound. */
 [[noreturn]] void OnUncaughtException() noexcept
 {
+	FString Reason = TEXT("an exception of an unknown type");
 	try
 	{
-		if (const std::exception_ptr Current = std::current_exception())
+		const std::exception_ptr Current = std::current_exception();
+		if (Current)
 		{
 			std::rethrow_exception(Current);
 		}
 	}
 	catch (const std::exception& Exception)
 	{
-		const FString Reason = UTF8_TO_TCHAR(Exception.what());
-		FDebug::Fatal(__FILE__, __LINE__, *(TEXT("Unhandled exception: ") + Reason));
+		Reason = UTF8_TO_TCHAR(Exception.what());
 	}
 	catch (...)
 	{
-		FDebug::Fatal(__FILE__, __LINE__, TEXT("Unhandled exception of an unknown type"));
 	}
-	FDebug::Fatal(__FILE__, __LINE__, TEXT("The program was terminated"));
+	FDebug::CheckFailed("no exception leaves a module", __FILE__, __LINE__, Reason);
 }
 } // namespace
 
@@ -46,59 +46,55 @@ bool FEngineLoop::Init(const FEngineLoopOptions& Options, FString& OutError) noe
 	std::set_terminate(&OnUncaughtException);
 	bIsCommandlet = Options.bIsCommandlet;
 	HostProject::SetFolder(Options.ProjectFolder);
-	HostLog::OpenFile(FPaths::Combine(FPaths::ProjectLogDir(), TEXT("HeadlessEditor.log")));
-	HostLog::StartTimeStamps();
+	HostLog::OpenFile(FPaths::Combine(FPaths::ProjectSavedDir(), TEXT("Logs/HeadlessEditor.log")));
 	HostCulture::Set(Options.Culture);
 	HostAssets::Scan();
-	for (const FString& Folder : Options.PluginFolders)
+	try
 	{
-		if (!HostPlugins::Discover(Folder, OutError))
-		{
-			return false;
-		}
+		Start(Options.PluginFolders);
+		return true;
 	}
-	if (!LoadPhases(TEXT("EarliestPossible"), TEXT("PreEarlyLoadingScreen"), OutError))
+	catch (const std::runtime_error& Error)
 	{
+		OutError = UTF8_TO_TCHAR(Error.what());
 		return false;
 	}
+}
+
+void FEngineLoop::Start(const TArray<FString>& PluginFolders)
+{
+	for (const FString& Folder : PluginFolders)
+	{
+		HostPlugins::Discover(Folder);
+	}
+	LoadPhases(
+		{TEXT("EarliestPossible"), TEXT("PostConfigInit"), TEXT("PostSplashScreen"), TEXT("PreEarlyLoadingScreen")});
 	HostObjects::Init();
 	if (!bIsCommandlet)
 	{
 		FSlateApplication::Create();
 	}
-	if (!LoadPhases(TEXT("PreLoadingScreen"), TEXT("PostDefault"), OutError))
-	{
-		return false;
-	}
+	LoadPhases({TEXT("PreLoadingScreen"), TEXT("PreDefault"), TEXT("Default"), TEXT("PostDefault")});
 	if (!bIsCommandlet)
 	{
 		MakeEditor();
 	}
-	if (!LoadPhases(TEXT("PostEngineInit"), TEXT("PostEngineInit"), OutError))
-	{
-		return false;
-	}
+	LoadPhases({TEXT("PostEngineInit")});
 	if (!bIsCommandlet)
 	{
 		FCoreDelegates::OnFEngineLoopInitComplete.Broadcast();
 	}
-	return true;
 }
 
-bool FEngineLoop::LoadPhases(const TCHAR* First, const TCHAR* Last, FString& OutError)
+void FEngineLoop::LoadPhases(std::initializer_list<const TCHAR*> Phases)
 {
-	const TArray<FString>& Phases = HostPlugins::LoadingPhases();
-	for (int32 Index = Phases.Find(First); Index <= Phases.Find(Last); ++Index)
+	for (const TCHAR* Phase : Phases)
 	{
-		if (!HostPlugins::LoadModules(Phases[Index], bIsCommandlet, OutError))
-		{
-			return false;
-		}
+		HostPlugins::LoadModules(Phase, bIsCommandlet);
 	}
-	return true;
 }
 
-void FEngineLoop::MakeEditor()
+void FEngineLoop::MakeEditor() noexcept
 {
 	HostTrace::Line(TEXT("make the editor engine"));
 	GEditor = new UEditorEngine();

@@ -29,8 +29,9 @@ public:
 	LAUNCH_API void Exit() noexcept;
 
 private:
-	bool LoadPhases(const TCHAR* First, const TCHAR* Last, FString& OutError);
-	void MakeEditor();
+	void Start(const TArray<FString>& PluginFolders);
+	void LoadPhases(std::initializer_list<const TCHAR*> Phases);
+	void MakeEditor() noexcept;
 
 	bool bIsCommandlet = false;
 };

@@ -1,129 +1,103 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "PluginDescriptor.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <rapidjson/document.h>
 #include <rapidjson/error/en.h>
-#include <sstream>
+#include <stdexcept>
 
 namespace
 {
-FString Text(const rapidjson::Value& Value)
+[[noreturn]] void Refuse(const FString& File, const std::string& Reason)
 {
-	return FString(UTF8_TO_TCHAR(Value.GetString()));
+	throw std::runtime_error(TCHAR_TO_UTF8(*File) + Reason);
 }
 
-FString Place(const std::string& Content, size_t Offset)
+/** The object that is the whole file. */
+rapidjson::Document ReadJson(const FString& File)
 {
-	int32 Line = 1;
-	int32 Column = 1;
-	for (size_t Index = 0; Index < Offset && Index < Content.size(); ++Index)
-	{
-		const bool bIsBreak = Content[Index] == '\n';
-		Line += bIsBreak;
-		Column = bIsBreak ? 1 : Column + 1;
-	}
-	return FString::Printf(TEXT(":%d:%d: "), Line, Column);
-}
-
-bool ReadJson(const FString& File, rapidjson::Document& OutDocument, FString& OutError)
-{
-	std::ifstream Stream(*File, std::ios::binary);
+	std::ifstream Stream(std::filesystem::path(*File), std::ios::binary);
 	if (!Stream)
 	{
-		OutError = File + TEXT(": cannot be read");
-		return false;
+		Refuse(File, ": cannot be read");
 	}
-	std::ostringstream Content;
-	Content << Stream.rdbuf();
-	const std::string Json = Content.str();
-	OutDocument.Parse<rapidjson::kParseIterativeFlag>(Json.data(), Json.size());
-	if (OutDocument.HasParseError())
+	const std::string Json(std::istreambuf_iterator<char>(Stream), {});
+	rapidjson::Document Document;
+	Document.Parse<rapidjson::kParseIterativeFlag>(Json.data(), Json.size());
+	if (Document.HasParseError())
 	{
-		OutError = File + Place(Json, OutDocument.GetErrorOffset()) + TEXT("no JSON: ") +
-				   UTF8_TO_TCHAR(rapidjson::GetParseError_En(OutDocument.GetParseError()));
-		return false;
+		const std::string Before = Json.substr(0, Document.GetErrorOffset());
+		const auto Line = 1 + std::count(Before.begin(), Before.end(), '\n');
+		const size_t Column = Before.size() - (Before.rfind('\n') + 1) + 1;
+		Refuse(File, ":" + std::to_string(Line) + ":" + std::to_string(Column) +
+						 ": no JSON: " + rapidjson::GetParseError_En(Document.GetParseError()));
 	}
-	if (!OutDocument.IsObject())
+	if (!Document.IsObject())
 	{
-		OutError = File + TEXT(":1:1: no JSON object");
-		return false;
+		Refuse(File, ":1:1: no JSON object");
 	}
-	return true;
+	return Document;
 }
 
-FString Member(const rapidjson::Value& Object, const char* Name)
+/** A text of the object; the other one when it has none of that name. */
+std::string Member(const rapidjson::Value& Object, const char* Name, const char* Otherwise)
 {
-	const auto Found = Object.IsObject() ? Object.FindMember(Name) : rapidjson::Value::ConstMemberIterator();
-	return Object.IsObject() && Found != Object.MemberEnd() && Found->value.IsString() ? Text(Found->value) : FString();
+	const bool bIsText = Object.IsObject() && Object.HasMember(Name) && Object[Name].IsString();
+	return bIsText ? Object[Name].GetString() : Otherwise;
 }
 } // namespace
 
-bool ReadPluginDescriptor(const FString& File, FPluginDescriptor& OutDescriptor, FString& OutError)
+FPluginDescriptor ReadPluginDescriptor(const FString& File)
 {
-	rapidjson::Document Document;
-	if (!ReadJson(File, Document, OutError))
+	const rapidjson::Document Document = ReadJson(File);
+	FPluginDescriptor Descriptor{File, {}};
+	const rapidjson::Value None(rapidjson::kArrayType);
+	const rapidjson::Value& Modules = Document.HasMember("Modules") ? Document["Modules"] : None;
+	if (!Modules.IsArray())
 	{
-		return false;
+		Refuse(File, ": \"Modules\" is no array");
 	}
-	OutDescriptor.File = File;
-	const auto Modules = Document.FindMember("Modules");
-	if (Modules == Document.MemberEnd())
+	for (const rapidjson::Value& Entry : Modules.GetArray())
 	{
-		return true;
-	}
-	if (!Modules->value.IsArray())
-	{
-		OutError = File + TEXT(": \"Modules\" is no array");
-		return false;
-	}
-	for (const rapidjson::Value& Entry : Modules->value.GetArray())
-	{
-		FModuleDescriptor Module{Member(Entry, "Name"), Member(Entry, "Type"), Member(Entry, "LoadingPhase")};
-		if (Module.Name.IsEmpty() || Module.Type.IsEmpty())
+		const std::string Name = Member(Entry, "Name", "");
+		const std::string Type = Member(Entry, "Type", "");
+		if (Name.empty() || Type.empty())
 		{
-			OutError = File + FString::Printf(
-								  TEXT(": module %d has no \"Name\" or no \"Type\""), OutDescriptor.Modules.Num() + 1);
-			return false;
+			Refuse(
+				File, ": module " + std::to_string(Descriptor.Modules.Num() + 1) + " has no \"Name\" or no \"Type\"");
 		}
-		if (Module.LoadingPhase.IsEmpty())
-		{
-			Module.LoadingPhase = TEXT("Default");
-		}
-		OutDescriptor.Modules.Add(Module);
+		const std::string Phase = Member(Entry, "LoadingPhase", "Default");
+		Descriptor.Modules.Add(
+			{UTF8_TO_TCHAR(Name.c_str()), UTF8_TO_TCHAR(Type.c_str()), UTF8_TO_TCHAR(Phase.c_str())});
 	}
-	return true;
+	return Descriptor;
 }
 
-bool ReadModuleManifest(const FString& File, TMap<FName, FString>& OutFiles, FString& OutError)
+TMap<FName, FString> ReadModuleManifest(const FString& File)
 {
-	rapidjson::Document Document;
-	if (!ReadJson(File, Document, OutError))
-	{
-		return false;
-	}
+	const rapidjson::Document Document = ReadJson(File);
+	TMap<FName, FString> Files;
 	for (const auto& Entry : Document.GetObject())
 	{
-		const FString Key = Text(Entry.name);
-		const bool bIsModules = Key == TEXT("Modules") && Entry.value.IsObject();
-		if (!bIsModules && Key != TEXT("BuildId"))
-		{
-			OutError = File + TEXT(": unknown key \"") + Key + TEXT("\"");
-			return false;
-		}
-		if (!bIsModules)
+		const std::string Key = Entry.name.GetString();
+		if (Key == "BuildId")
 		{
 			continue;
+		}
+		if (Key != "Modules" || !Entry.value.IsObject())
+		{
+			Refuse(File, ": unknown key \"" + Key + "\"");
 		}
 		for (const auto& Module : Entry.value.GetObject())
 		{
 			if (!Module.value.IsString())
 			{
-				OutError = File + TEXT(": module \"") + Text(Module.name) + TEXT("\" has no file name");
-				return false;
+				Refuse(File, std::string(": module \"") + Module.name.GetString() + "\" has no file name");
 			}
-			OutFiles.Add(FName(*Text(Module.name)), Text(Module.value));
+			Files.Add(Module.name.GetString(), UTF8_TO_TCHAR(Module.value.GetString()));
 		}
 	}
-	return true;
+	return Files;
 }

@@ -1,5 +1,5 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// What the host reads of a plug-in's files.
+// What the host reads of a plug-in's files. What is wrong with them is thrown as by HostPlugins.
 #pragma once
 
 #include "CoreMinimal.h"
@@ -19,8 +19,7 @@ struct FPluginDescriptor
 	TArray<FModuleDescriptor> Modules;
 };
 
-/** Reads a .uplugin file. @return false with one line in OutError: file, line and column, reason */
-bool ReadPluginDescriptor(const FString& File, FPluginDescriptor& OutDescriptor, FString& OutError);
+FPluginDescriptor ReadPluginDescriptor(const FString& File);
 
-/** Reads the list of library files that lies beside them; a list with unknown keys is refused. */
-bool ReadModuleManifest(const FString& File, TMap<FName, FString>& OutFiles, FString& OutError);
+/** Reads the list of library files that lies beside them, by module; a list with unknown keys is refused. */
+TMap<FName, FString> ReadModuleManifest(const FString& File);

@@ -6,22 +6,18 @@
 #include "Modules/ModuleManager.h"
 #include "PluginDescriptor.h"
 
-#include <algorithm>
 #include <filesystem>
-#include <vector>
+#include <set>
+#include <stdexcept>
 
 namespace
 {
-TArray<FPluginDescriptor>& Plugins()
-{
-	static TArray<FPluginDescriptor> Descriptors;
-	return Descriptors;
-}
+TArray<FPluginDescriptor> Plugins;
 
 /** The descriptors directly below the folder's sub-folders, in the order of their paths. */
-std::vector<std::filesystem::path> FindDescriptors(const FString& Folder)
+std::set<std::filesystem::path> FindDescriptors(const FString& Folder)
 {
-	std::vector<std::filesystem::path> Found;
+	std::set<std::filesystem::path> Found;
 	std::error_code Ignored;
 	for (const auto& Plugin : std::filesystem::directory_iterator(*Folder, Ignored))
 	{
@@ -29,34 +25,11 @@ std::vector<std::filesystem::path> FindDescriptors(const FString& Folder)
 		{
 			if (File.path().extension() == L".uplugin")
 			{
-				Found.push_back(File.path());
+				Found.insert(File.path());
 			}
 		}
 	}
-	std::sort(Found.begin(), Found.end());
 	return Found;
-}
-
-bool AddPlugin(const std::filesystem::path& File, FString& OutError)
-{
-	FPluginDescriptor Descriptor;
-	if (!ReadPluginDescriptor(FString(File.generic_wstring().c_str()), Descriptor, OutError))
-	{
-		return false;
-	}
-	const FString Binaries = FPaths::Combine(File.parent_path().generic_wstring().c_str(), TEXT("Binaries/Win64"));
-	const FString Manifest = FPaths::Combine(Binaries, TEXT("UnrealEditor.modules"));
-	TMap<FName, FString> Files;
-	if (Descriptor.Modules.Num() > 0 && !ReadModuleManifest(Manifest, Files, OutError))
-	{
-		return false;
-	}
-	for (const auto& Entry : Files)
-	{
-		FModuleManager::Get().SetModuleFilename(Entry.Key, FPaths::Combine(Binaries, Entry.Value));
-	}
-	Plugins().Add(Descriptor);
-	return true;
 }
 
 bool LoadsHere(const FModuleDescriptor& Module, const FString& Phase, bool bIsCommandlet)
@@ -69,75 +42,53 @@ bool LoadsHere(const FModuleDescriptor& Module, const FString& Phase, bool bIsCo
 }
 } // namespace
 
-bool HostPlugins::Discover(const FString& PluginsFolder, FString& OutError)
+void HostPlugins::Discover(const FString& PluginsFolder)
 {
 	for (const std::filesystem::path& File : FindDescriptors(PluginsFolder))
 	{
-		if (!AddPlugin(File, OutError))
+		const FPluginDescriptor Descriptor = ReadPluginDescriptor(File.generic_wstring().c_str());
+		Plugins.Add(Descriptor);
+		if (Descriptor.Modules.IsEmpty())
 		{
-			return false;
+			continue;
+		}
+		const FString Binaries = FPaths::Combine(FPaths::GetPath(Descriptor.File), TEXT("Binaries/Win64"));
+		for (const auto& [Module, Library] :
+			ReadModuleManifest(FPaths::Combine(Binaries, TEXT("UnrealEditor.modules"))))
+		{
+			FModuleManager::Get().SetModuleFilename(Module, FPaths::Combine(Binaries, Library));
 		}
 	}
-	return true;
 }
 
-const TArray<FString>& HostPlugins::LoadingPhases()
+void HostPlugins::LoadModules(const FString& Phase, bool bIsCommandlet)
 {
-	static const TArray<FString> Phases{TEXT("EarliestPossible"), TEXT("PostConfigInit"), TEXT("PostSplashScreen"),
-		TEXT("PreEarlyLoadingScreen"), TEXT("PreLoadingScreen"), TEXT("PreDefault"), TEXT("Default"),
-		TEXT("PostDefault"), TEXT("PostEngineInit")};
-	return Phases;
-}
-
-bool HostPlugins::LoadModules(const FString& Phase, bool bIsCommandlet, FString& OutError)
-{
-	for (const FPluginDescriptor& Plugin : Plugins())
+	for (const FPluginDescriptor& Plugin : Plugins)
 	{
 		for (const FModuleDescriptor& Module : Plugin.Modules)
 		{
-			EModuleLoadResult Result = EModuleLoadResult::Success;
+			FString Reason;
 			if (LoadsHere(Module, Phase, bIsCommandlet) &&
-				!FModuleManager::Get().LoadModuleWithFailureReason(FName(*Module.Name), Result))
+				!FModuleManager::Get().TryLoadModule(FName(Module.Name), Reason))
 			{
-				OutError = FString::Printf(TEXT("%s: module \"%s\": %s: %s"), *Plugin.File, *Module.Name,
-					*FModuleManager::Get().GetModuleFilename(FName(*Module.Name)), LexToString(Result));
-				return false;
+				const FString Line =
+					FString::Printf(TEXT("%s: module \"%s\": %s"), *Plugin.File, *Module.Name, *Reason);
+				throw std::runtime_error(TCHAR_TO_UTF8(*Line));
 			}
 		}
 	}
-	return true;
 }
-
-namespace
-{
-class FPlugin final : public IPlugin
-{
-public:
-	explicit FPlugin(const FPluginDescriptor& InDescriptor) : Descriptor(InDescriptor) {}
-
-	FString GetBaseDir() const override { return FPaths::GetPath(Descriptor.File); }
-
-private:
-	FPluginDescriptor Descriptor;
-};
-
-class FPluginManager final : public IPluginManager
-{
-public:
-	TSharedPtr<IPlugin> FindPlugin(const FStringView Name) override
-	{
-		const FString File = TEXT("/") + FString(Name) + TEXT(".uplugin");
-		const FPluginDescriptor* Found = Plugins().FindByPredicate(
-			[&File](const FPluginDescriptor& Descriptor) { return Descriptor.File.EndsWith(File); });
-		return Found ? MakeShared<FPlugin>(*Found) : TSharedPtr<IPlugin>();
-	}
-
-	TSharedPtr<IPlugin> FindPlugin(const ANSICHAR* Name) override { return FindPlugin(FString(UTF8_TO_TCHAR(Name))); }
-};
-} // namespace
 
 IPluginManager& IPluginManager::Get()
 {
-	static FPluginManager Manager;
+	static IPluginManager Manager;
 	return Manager;
+}
+
+TSharedPtr<IPlugin> IPluginManager::FindPlugin(const ANSICHAR* Name)
+{
+	const FString File = FString::Printf(TEXT("/%s.uplugin"), UTF8_TO_TCHAR(Name));
+	const FPluginDescriptor* Found = Plugins.FindByPredicate(
+		[&File](const FPluginDescriptor& Descriptor) { return Descriptor.File.EndsWith(File); });
+	return Found ? MakeShared<IPlugin>(FPaths::GetPath(Found->File)) : TSharedPtr<IPlugin>();
 }

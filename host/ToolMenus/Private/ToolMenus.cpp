@@ -90,7 +90,7 @@ TSharedRef<SWidget> UToolMenus::GenerateWidget(const FName Name, const FToolMenu
 	{
 		if (!Widgets[Index].IsValid())
 		{
-			Widgets.RemoveAtSwap(Index);
+			Widgets.RemoveAt(Index);
 		}
 	}
 	Widgets.Add(Widget);

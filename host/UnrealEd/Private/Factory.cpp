@@ -7,7 +7,7 @@ UFactory::UFactory(const FObjectInitializer& ObjectInitializer) : UObject(Object
 
 UClass* UFactory::StaticClass()
 {
-	static UClass* const Class = HostReflection::NewClass(TEXT("/Script/UnrealEd"), TEXT("Factory"), sizeof(UFactory),
-		CLASS_Native | CLASS_Abstract, TEXT(""), nullptr, UObject::StaticClass());
+	static UClass* const Class = HostReflection::NewClass(
+		TEXT("/Script/UnrealEd"), TEXT("Factory"), sizeof(UFactory), TEXT(""), nullptr, UObject::StaticClass());
 	return Class;
 }

@@ -4,35 +4,9 @@
 #include "Host/Trace.h"
 #include "Misc/Paths.h"
 
-#include <algorithm>
-#include <vector>
 #include <windows.h>
 
 DEFINE_LOG_CATEGORY_STATIC(LogModuleManager, Log, All);
-
-namespace
-{
-using FInitializeModule = IModuleInterface* (*)();
-
-} // namespace
-
-const TCHAR* LexToString(EModuleLoadResult Result)
-{
-	switch (Result)
-	{
-	case EModuleLoadResult::Success:
-		return TEXT("loaded");
-	case EModuleLoadResult::FileNotFound:
-		return TEXT("the library file is missing");
-	case EModuleLoadResult::FileIncompatible:
-		return TEXT("the library does not export InitializeModule");
-	case EModuleLoadResult::CouldNotBeLoadedByOS:
-		return TEXT("the operating system could not load the library or one that it needs");
-	case EModuleLoadResult::FailedToInitialize:
-		return TEXT("InitializeModule gave no module");
-	}
-	return TEXT("");
-}
 
 FModuleManager& FModuleManager::Get()
 {
@@ -41,153 +15,109 @@ FModuleManager& FModuleManager::Get()
 	return *Manager;
 }
 
-const FModuleManager::FModuleInfo* FModuleManager::FindInfo(const FName InModuleName) const
-{
-	const TSharedPtr<FModuleInfo>* Found = Modules.Find(InModuleName);
-	return Found ? Found->Get() : nullptr;
-}
-
-FModuleManager::FModuleInfo& FModuleManager::FindOrAddInfo(const FName InModuleName)
-{
-	TSharedPtr<FModuleInfo>& Info = Modules.FindOrAdd(InModuleName);
-	if (!Info.IsValid())
-	{
-		Info = MakeShared<FModuleInfo>();
-	}
-	return *Info;
-}
-
 void FModuleManager::SetModuleFilename(const FName InModuleName, const FString& Filename)
 {
-	FindOrAddInfo(InModuleName).Filename = Filename;
+	Modules.FindOrAdd(InModuleName).Filename = Filename;
 }
 
-void FModuleManager::RegisterStaticallyLinkedModule(
-	const FName InModuleName, const FInitializeStaticallyLinkedModule& InInitializer)
+bool FModuleManager::RegisterStaticallyLinkedModule(const FName InModuleName, FInitializer InInitializer)
 {
-	FindOrAddInfo(InModuleName).Initializer = InInitializer;
+	Modules.FindOrAdd(InModuleName).Initializer = InInitializer;
+	return true;
 }
 
-FString FModuleManager::GetModuleFilename(FName InModuleName) const
+IModuleInterface* FModuleManager::GetModule(const FName InModuleName) const
 {
-	const FModuleInfo* Info = FindInfo(InModuleName);
-	return Info ? Info->Filename : FString();
+	const FModuleInfo* Info = Modules.Find(InModuleName);
+	return Info ? Info->Module.get() : nullptr;
 }
 
-IModuleInterface* FModuleManager::GetModule(const FName InModuleName)
+FString FModuleManager::FindInitializer(const FName InModuleName, FModuleInfo& Info) const
 {
-	const FModuleInfo* Info = FindInfo(InModuleName);
-	return Info ? Info->Module.Get() : nullptr;
-}
-
-bool FModuleManager::IsModuleLoaded(const FName InModuleName) const
-{
-	const FModuleInfo* Info = FindInfo(InModuleName);
-	return Info && Info->Module.IsValid();
-}
-
-EModuleLoadResult FModuleManager::MakeModule(const FName InModuleName, FModuleInfo& Info)
-{
-	if (Info.Initializer.IsBound())
+	if (Info.Initializer)
 	{
-		Info.Module = TUniquePtr<IModuleInterface>(Info.Initializer.Execute());
-		return EModuleLoadResult::Success;
+		return FString();
 	}
-	if (Info.Filename.IsEmpty() || !FPaths::FileExists(Info.Filename))
+	if (!FPaths::FileExists(Info.Filename))
 	{
-		return EModuleLoadResult::FileNotFound;
+		return TEXT("the library file is missing");
 	}
 	HMODULE Library = LoadLibraryExW(*Info.Filename, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
 	if (!Library)
 	{
-		return EModuleLoadResult::CouldNotBeLoadedByOS;
+		return TEXT("the operating system could not load the library or one that it needs");
 	}
 	HostTrace::Line(TEXT("load library %s"), *InModuleName.ToString());
-	FARPROC Export = GetProcAddress(Library, "InitializeModule");
-	if (!Export)
+	Info.Initializer =
+		reinterpret_cast<FInitializer>(reinterpret_cast<void*>(GetProcAddress(Library, "InitializeModule")));
+	if (!Info.Initializer)
 	{
-		return EModuleLoadResult::FileIncompatible;
+		return TEXT("the library does not export InitializeModule");
 	}
 	ProcessLoadedObjectsCallback.Broadcast();
-	Info.Module = TUniquePtr<IModuleInterface>(reinterpret_cast<FInitializeModule>(reinterpret_cast<void*>(Export))());
-	return Info.Module.IsValid() ? EModuleLoadResult::Success : EModuleLoadResult::FailedToInitialize;
+	return FString();
 }
 
-IModuleInterface* FModuleManager::LoadModuleWithFailureReason(
-	const FName InModuleName, EModuleLoadResult& OutFailureReason) noexcept
+IModuleInterface* FModuleManager::TryLoadModule(const FName InModuleName, FString& OutReason) noexcept
 {
-	OutFailureReason = EModuleLoadResult::Success;
-	if (IModuleInterface* Loaded = GetModule(InModuleName))
+	FModuleInfo& Info = Modules.FindOrAdd(InModuleName);
+	if (Info.Module)
 	{
-		return Loaded;
+		return Info.Module.get();
 	}
-	FModuleInfo& Info = FindOrAddInfo(InModuleName);
 	checkf(!Info.bWasUnloadedAtShutdown, TEXT("Attempted to load module '%s' that was already unloaded at shutdown."),
 		*InModuleName.ToString());
-	OutFailureReason = MakeModule(InModuleName, Info);
-	if (OutFailureReason != EModuleLoadResult::Success)
+	OutReason = FindInitializer(InModuleName, Info);
+	if (OutReason.IsEmpty())
 	{
-		UE_LOG(LogModuleManager, Warning, TEXT("ModuleManager: Unable to load module '%s' from '%s': %s."),
-			*InModuleName.ToString(), *Info.Filename, LexToString(OutFailureReason));
+		Info.Module.reset(Info.Initializer());
+		OutReason = Info.Module ? TEXT("") : TEXT("InitializeModule gave no module");
+	}
+	if (!OutReason.IsEmpty())
+	{
+		OutReason = Info.Filename + TEXT(": ") + OutReason;
+		UE_LOG(LogModuleManager, Warning, TEXT("ModuleManager: Unable to load module '%s': %s."),
+			*InModuleName.ToString(), *OutReason);
 		return nullptr;
 	}
 	HostTrace::Line(TEXT("start module %s"), *InModuleName.ToString());
 	Info.Module->StartupModule();
-	Info.LoadOrder = CurrentLoadOrder++;
-	ModulesChangedEvent.Broadcast(InModuleName, EModuleChangeReason::ModuleLoaded);
-	return Info.Module.Get();
-}
-
-IModuleInterface* FModuleManager::LoadModule(const FName InModuleName)
-{
-	EModuleLoadResult Ignored;
-	return LoadModuleWithFailureReason(InModuleName, Ignored);
+	Started.Add(InModuleName);
+	return Info.Module.get();
 }
 
 IModuleInterface& FModuleManager::LoadModuleChecked(const FName InModuleName)
 {
-	EModuleLoadResult Failure;
-	IModuleInterface* Module = LoadModuleWithFailureReason(InModuleName, Failure);
-	checkf(
-		Module, TEXT("ModuleName=%s, Failure=%s, IsInGameThread=Yes"), *InModuleName.ToString(), LexToString(Failure));
+	FString Reason;
+	IModuleInterface* Module = TryLoadModule(InModuleName, Reason);
+	checkf(Module, TEXT("ModuleName=%s, Failure=%s, IsInGameThread=Yes"), *InModuleName.ToString(), *Reason);
 	return *Module;
 }
 
-bool FModuleManager::UnloadModule(const FName InModuleName, bool bIsShutdown, bool) noexcept
+bool FModuleManager::UnloadModule(const FName InModuleName, bool bIsShutdown) noexcept
 {
 	if (!IsModuleLoaded(InModuleName))
 	{
 		return false;
 	}
-	FModuleInfo& Info = FindOrAddInfo(InModuleName);
+	FModuleInfo& Info = Modules.FindOrAdd(InModuleName);
 	HostTrace::Line(TEXT("shut down module %s"), *InModuleName.ToString());
+	Started.Remove(InModuleName);
 	Info.Module->ShutdownModule();
-	Info.Module.Reset();
+	Info.Module.reset();
 	Info.bWasUnloadedAtShutdown = bIsShutdown;
-	if (!bIsShutdown)
-	{
-		ModulesChangedEvent.Broadcast(InModuleName, EModuleChangeReason::ModuleUnloaded);
-	}
 	return true;
 }
 
 void FModuleManager::UnloadModulesAtShutdown() noexcept
 {
-	std::vector<std::pair<int32, FName>> Order;
-	for (const auto& Entry : Modules)
+	const TArray<FName> Order = Started;
+	for (int32 Index = Order.Num(); Index-- > 0;)
 	{
-		if (Entry.Value->Module.IsValid())
-		{
-			Order.emplace_back(Entry.Value->LoadOrder, Entry.Key);
-		}
+		GetModule(Order[Index])->PreUnloadCallback();
 	}
-	std::sort(Order.begin(), Order.end(), [](const auto& A, const auto& B) { return A.first > B.first; });
-	for (const auto& [LoadOrder, Name] : Order)
+	for (int32 Index = Order.Num(); Index-- > 0;)
 	{
-		GetModule(Name)->PreUnloadCallback();
-	}
-	for (const auto& [LoadOrder, Name] : Order)
-	{
-		UnloadModule(Name, true);
+		UnloadModule(Order[Index], true);
 	}
 }

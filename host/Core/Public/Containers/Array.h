@@ -2,7 +2,6 @@
 // The dynamic array. Bad indices are fatal; changing an array inside a ranged-for over it is reported once.
 #pragma once
 
-#include "Containers/AllowShrinking.h"
 #include "Misc/AssertionMacros.h"
 
 #include <algorithm>
@@ -14,61 +13,33 @@
 template <typename T>
 struct TDefaultInitAllocator : std::allocator<T>
 {
-	template <typename U>
-	struct rebind
-	{
-		using other = TDefaultInitAllocator<U>;
-	};
-
 	TDefaultInitAllocator() = default;
 	template <typename U>
 	TDefaultInitAllocator(const TDefaultInitAllocator<U>&) noexcept
 	{
 	}
 
-	template <typename U>
-	void construct(U* Place)
-	{
-		::new (static_cast<void*>(Place)) U;
-	}
-
-	template <typename U, typename... ArgTypes>
-	void construct(U* Place, ArgTypes&&... Args)
-	{
-		std::construct_at(Place, std::forward<ArgTypes>(Args)...);
-	}
+	void construct(T* Place) { ::new (static_cast<void*>(Place)) T; }
 };
 
 /** What a ranged-for walks with: knows how many elements there were at its start. */
 template <typename ArrayType, typename ElementType>
-class TRangedForIterator
+struct TRangedForIterator
 {
-public:
-	TRangedForIterator(const ArrayType& InArray, ElementType* InElement)
-		: Array(&InArray), Element(InElement), StartNum(InArray.Num())
-	{
-	}
+	const ArrayType& Array;
+	ElementType* Element;
+	const int32 InitialNum = Array.Num();
 
 	ElementType& operator*() const { return *Element; }
 
-	TRangedForIterator& operator++()
-	{
-		++Element;
-		return *this;
-	}
+	void operator++() { ++Element; }
 
-	friend bool operator!=(const TRangedForIterator& A, const TRangedForIterator& B)
+	bool operator!=(const TRangedForIterator& End) const
 	{
-		const int32 CurrentNum = A.Array->Num();
-		const int32 InitialNum = A.StartNum;
+		const int32 CurrentNum = Array.Num();
 		ensureMsgf(CurrentNum == InitialNum, TEXT("Array has changed during ranged-for iteration!"));
-		return A.Element != B.Element;
+		return Element != End.Element;
 	}
-
-private:
-	const ArrayType* Array;
-	ElementType* Element;
-	int32 StartNum;
 };
 
 template <typename ElementType>
@@ -96,86 +67,52 @@ public:
 		return GetData()[Index];
 	}
 
-	const ElementType& operator[](int32 Index) const
-	{
-		RangeCheck(Index);
-		return GetData()[Index];
-	}
+	const ElementType& operator[](int32 Index) const { return const_cast<TArray&>(*this)[Index]; }
 
 	ElementType& Last() { return (*this)[Num() - 1]; }
 
 	const ElementType& Last() const { return (*this)[Num() - 1]; }
 
-	/** @return the new element's index, as the next one does */
-	int32 Add(const ElementType& Element) { return Emplace(Element); }
-
-	int32 Add(ElementType&& Element) { return Emplace(std::move(Element)); }
+	/** @return the new element's index */
+	int32 Add(ElementType Element)
+	{
+		Storage.push_back(std::move(Element));
+		return Num() - 1;
+	}
 
 	template <typename... ArgTypes>
 	ElementType& Emplace_GetRef(ArgTypes&&... Args)
 	{
-		return (*this)[Emplace(std::forward<ArgTypes>(Args)...)];
-	}
-
-	template <typename... ArgTypes>
-	int32 Emplace(ArgTypes&&... Args)
-	{
-		Storage.emplace_back(std::forward<ArgTypes>(Args)...);
-		return Num() - 1;
+		return Storage.emplace_back(std::forward<ArgTypes>(Args)...);
 	}
 
 	/** Keeps the order of the others. */
-	void RemoveAt(int32 Index, EAllowShrinking = EAllowShrinking::Yes)
+	void RemoveAt(int32 Index)
 	{
 		RangeCheck(Index);
 		Storage.erase(Storage.begin() + Index);
 	}
 
-	/** Fills the hole with the last element. */
-	void RemoveAtSwap(int32 Index, EAllowShrinking = EAllowShrinking::Yes)
-	{
-		RangeCheck(Index);
-		if (Index != Num() - 1)
-		{
-			Storage[static_cast<size_t>(Index)] = std::move(Storage.back());
-		}
-		Storage.pop_back();
-	}
+	/** Removes all elements equal to the given one. @return how many */
+	int32 Remove(ElementType Element) { return static_cast<int32>(std::erase(Storage, Element)); }
 
-	/** Removes all elements equal to the given one, which may lie in this array. @return how many */
-	int32 Remove(const ElementType& Element)
+	bool Contains(const ElementType& Element) const
 	{
-		const ElementType Value = Element;
-		return static_cast<int32>(std::erase(Storage, Value));
-	}
-
-	/** @return INDEX_NONE when there is none, as the next but one does */
-	int32 Find(const ElementType& Element) const
-	{
-		return IndexOfByPredicate([&Element](const ElementType& Other) { return Other == Element; });
-	}
-
-	bool Contains(const ElementType& Element) const { return Find(Element) != INDEX_NONE; }
-
-	template <typename Predicate>
-	int32 IndexOfByPredicate(Predicate Pred) const
-	{
-		const auto Found = std::find_if(Storage.begin(), Storage.end(), Pred);
-		return Found == Storage.end() ? INDEX_NONE : static_cast<int32>(Found - Storage.begin());
+		return std::find(Storage.begin(), Storage.end(), Element) != Storage.end();
 	}
 
 	template <typename Predicate>
 	bool ContainsByPredicate(Predicate Pred) const
 	{
-		return IndexOfByPredicate(Pred) != INDEX_NONE;
+		return FindByPredicate(Pred) != nullptr;
 	}
 
 	/** The first match, or null; valid until the array changes. */
 	template <typename Predicate>
 	ElementType* FindByPredicate(Predicate Pred)
 	{
-		const int32 Index = IndexOfByPredicate(Pred);
-		return Index == INDEX_NONE ? nullptr : GetData() + Index;
+		const auto Found = std::find_if(Storage.begin(), Storage.end(), Pred);
+		return Found == Storage.end() ? nullptr : &*Found;
 	}
 
 	template <typename Predicate>
@@ -185,33 +122,25 @@ public:
 	}
 
 	/** New elements of simple types hold whatever was in memory. */
-	void SetNumUninitialized(int32 NewNum, EAllowShrinking = EAllowShrinking::Yes)
-	{
-		Storage.resize(static_cast<size_t>(NewNum));
-	}
-
-	void Reserve(int32 Number) { Storage.reserve(static_cast<size_t>(Number)); }
+	void SetNumUninitialized(int32 NewNum) { Storage.resize(static_cast<size_t>(NewNum)); }
 
 	/** Removes all and gives the memory back. */
 	void Empty() { Storage = {}; }
 
-	/** Removes all and keeps the memory. */
-	void Reset() { Storage.clear(); }
-
 	friend bool operator==(const TArray& A, const TArray& B) { return A.Storage == B.Storage; }
 
-	auto begin() { return TRangedForIterator<TArray, ElementType>(*this, GetData()); }
+	auto begin() { return TRangedForIterator<TArray, ElementType>{*this, GetData()}; }
 
-	auto begin() const { return TRangedForIterator<TArray, const ElementType>(*this, GetData()); }
+	auto begin() const { return TRangedForIterator<TArray, const ElementType>{*this, GetData()}; }
 
-	auto end() { return TRangedForIterator<TArray, ElementType>(*this, GetData() + Num()); }
+	auto end() { return TRangedForIterator<TArray, ElementType>{*this, GetData() + Num()}; }
 
-	auto end() const { return TRangedForIterator<TArray, const ElementType>(*this, GetData() + Num()); }
+	auto end() const { return TRangedForIterator<TArray, const ElementType>{*this, GetData() + Num()}; }
 
 private:
 	void RangeCheck(int32 Index) const
 	{
-		checkf(Index >= 0 && Index < Num(), TEXT("Array index out of bounds: %lld into an array of size %lld"),
+		checkf(IsValidIndex(Index), TEXT("Array index out of bounds: %lld into an array of size %lld"),
 			static_cast<long long>(Index), static_cast<long long>(Num()));
 	}
 

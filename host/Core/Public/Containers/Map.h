@@ -1,55 +1,29 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// The hash map. Iteration follows the order of adding. Adding and removing move elements: no reference survives either.
+// The hash map. The keys' GetTypeHash is found beside them.
 #pragma once
 
 #include "Templates/TypeHash.h"
 
 #include <unordered_map>
-#include <vector>
-
-template <typename KeyType, typename ValueType>
-struct TPair
-{
-	KeyType Key;
-	ValueType Value;
-};
 
 template <typename KeyType, typename ValueType>
 class TMap
 {
 public:
-	int32 Num() const { return static_cast<int32>(Pairs.size()); }
-
-	bool IsEmpty() const { return Pairs.empty(); }
-
-	/** Replaces the value when the key is known. @return the value's place in the map, as the next two do */
-	ValueType& Add(const KeyType& Key, const ValueType& Value) { return Emplace(Key, Value); }
-
-	ValueType& Add(const KeyType& Key, ValueType&& Value) { return Emplace(Key, std::move(Value)); }
-
-	template <typename... ArgTypes>
-	ValueType& Emplace(const KeyType& Key, ArgTypes&&... Args)
+	/** Replaces the value when the key is known. @return the value's place in the map */
+	ValueType& Add(const KeyType& Key, ValueType Value)
 	{
-		ValueType Value(std::forward<ArgTypes>(Args)...);
-		return FindOrAdd(Key) = std::move(Value);
+		return Pairs.insert_or_assign(Key, std::move(Value)).first->second;
 	}
 
 	/** Adds a default value for an unknown key. */
-	ValueType& FindOrAdd(const KeyType& Key)
-	{
-		const auto [Entry, bIsNew] = Indices.try_emplace(Key, Pairs.size());
-		if (bIsNew)
-		{
-			Pairs.push_back({Key, ValueType()});
-		}
-		return Pairs[Entry->second].Value;
-	}
+	ValueType& FindOrAdd(const KeyType& Key) { return Pairs[Key]; }
 
 	/** Null for an unknown key. */
 	ValueType* Find(const KeyType& Key)
 	{
-		const auto Entry = Indices.find(Key);
-		return Entry == Indices.end() ? nullptr : &Pairs[Entry->second].Value;
+		const auto Found = Pairs.find(Key);
+		return Found == Pairs.end() ? nullptr : &Found->second;
 	}
 
 	const ValueType* Find(const KeyType& Key) const { return const_cast<TMap*>(this)->Find(Key); }
@@ -61,42 +35,19 @@ public:
 		return Value ? *Value : ValueType();
 	}
 
-	bool Contains(const KeyType& Key) const { return Find(Key) != nullptr; }
+	bool Contains(const KeyType& Key) const { return Pairs.contains(Key); }
 
-	/** The key may lie in this map. @return how many pairs were removed: 0 or 1 */
+	/** @return how many pairs were removed: 0 or 1 */
 	int32 Remove(const KeyType& Key)
 	{
-		const auto Entry = Indices.find(Key);
-		if (Entry == Indices.end())
-		{
-			return 0;
-		}
-		const size_t Removed = Entry->second;
-		Indices.erase(Entry);
-		for (auto& [OtherKey, Index] : Indices)
-		{
-			Index -= Index > Removed ? 1 : 0;
-		}
 		// Out of the map before it dies: its destructor may ask the map.
-		const auto Place = Pairs.begin() + static_cast<std::ptrdiff_t>(Removed);
-		[[maybe_unused]] const TPair<KeyType, ValueType> Doomed = std::move(*Place);
-		Pairs.erase(Place);
-		return 1;
+		return Pairs.extract(Key) ? 1 : 0;
 	}
 
-	void Empty()
-	{
-		Indices.clear();
-		Pairs.clear();
-	}
-
+	/** Pairs of key and value, in no particular order. */
 	auto begin() { return Pairs.begin(); }
 
-	auto begin() const { return Pairs.begin(); }
-
 	auto end() { return Pairs.end(); }
-
-	auto end() const { return Pairs.end(); }
 
 private:
 	struct FHash
@@ -104,6 +55,5 @@ private:
 		std::size_t operator()(const KeyType& Key) const { return GetTypeHash(Key); }
 	};
 
-	std::vector<TPair<KeyType, ValueType>> Pairs;
-	std::unordered_map<KeyType, std::size_t, FHash> Indices;
+	std::unordered_map<KeyType, ValueType, FHash> Pairs;
 };

@@ -1,49 +1,44 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// Conversion between UTF-16 and UTF-8. Malformed input becomes replacement characters.
+// Conversion between UTF-16 and UTF-8. Malformed input becomes replacement characters, null an empty result. A result
+// lives as long as its object.
 #pragma once
 
 #include "HAL/Platform.h"
 
-#include <vector>
+#include <string>
 
-/**
- * The result of a conversion; lives as long as the object. The result of the sized form is terminated only if the given
- * length included a terminator: a stray character stands behind it, so that code that relies on a terminator shows.
- */
-template <typename CharType>
-class TConvertedString
+class FTCHARToUTF8
 {
 public:
-	TConvertedString(const TConvertedString&) = delete;
-	TConvertedString& operator=(const TConvertedString&) = delete;
-
-	const CharType* Get() const { return Buffer.data(); }
-
-	/** In characters of the result, without the terminator of the unsized form. */
-	int32 Length() const { return static_cast<int32>(Buffer.size()) - 1; }
-
-	operator const CharType*() const { return Get(); }
-
-protected:
-	TConvertedString() = default;
-
-	std::vector<CharType> Buffer;
-};
-
-class FTCHARToUTF8 : public TConvertedString<ANSICHAR>
-{
-public:
-	/** Null gives an empty result. */
 	CORE_API explicit FTCHARToUTF8(const TCHAR* Source);
-	CORE_API FTCHARToUTF8(const TCHAR* Source, int32 SourceLen);
+	FTCHARToUTF8(const FTCHARToUTF8&) = delete;
+	FTCHARToUTF8& operator=(const FTCHARToUTF8&) = delete;
+
+	const ANSICHAR* Get() const { return Buffer.c_str(); }
+
+private:
+	std::string Buffer;
 };
 
-class FUTF8ToTCHAR : public TConvertedString<TCHAR>
+class FUTF8ToTCHAR
 {
 public:
-	/** Null gives an empty result. */
 	CORE_API explicit FUTF8ToTCHAR(const ANSICHAR* Source);
+
+	/** The result is not terminated: a stray character stands behind it, so that code that relies on an end shows. */
 	CORE_API FUTF8ToTCHAR(const ANSICHAR* Source, int32 SourceLen);
+
+	FUTF8ToTCHAR(const FUTF8ToTCHAR&) = delete;
+	FUTF8ToTCHAR& operator=(const FUTF8ToTCHAR&) = delete;
+
+	const TCHAR* Get() const { return Buffer.c_str(); }
+
+	/** In characters of the result, without a terminator. */
+	int32 Length() const { return ResultLength; }
+
+private:
+	std::wstring Buffer;
+	int32 ResultLength;
 };
 
 /** Both live until the end of the full expression. */

@@ -1,29 +1,29 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// The string type. Comparisons ignore case (ASCII letters) unless told otherwise.
+// The string types. Comparisons ignore case (ASCII letters), but for Equals.
 #pragma once
 
-#include "Containers/StringView.h"
+#include "HAL/Platform.h"
 
 #include <string>
+#include <string_view>
 #include <utility>
 
-namespace ESearchCase
+/** Characters that someone else owns; not terminated. */
+class FStringView
 {
-enum Type
-{
-	CaseSensitive,
-	IgnoreCase
-};
-}
+public:
+	FStringView(const TCHAR* InText) : View(InText ? InText : TEXT("")) {}
+	FStringView(const TCHAR* InData, int32 InSize) : View(InData, static_cast<size_t>(InSize)) {}
 
-namespace ESearchDir
-{
-enum Type
-{
-	FromStart,
-	FromEnd
+	int32 Len() const { return static_cast<int32>(View.size()); }
+
+	const TCHAR* begin() const { return View.data(); }
+
+	const TCHAR* end() const { return View.data() + View.size(); }
+
+private:
+	std::wstring_view View;
 };
-}
 
 class FString
 {
@@ -61,30 +61,24 @@ public:
 
 	friend FString operator+(FString A, FStringView B) { return std::move(A += B); }
 
-	CORE_API bool Equals(const FString& Other, ESearchCase::Type SearchCase = ESearchCase::CaseSensitive) const;
+	/** Case counts. */
+	bool Equals(const FString& Other) const { return Data == Other.Data; }
 
-	/** Orders by characters; negative, 0 or positive. */
-	CORE_API int32 Compare(const FString& Other, ESearchCase::Type SearchCase = ESearchCase::CaseSensitive) const;
+	/** The first place; an empty text is found at none. @return its first character's index, or INDEX_NONE */
+	CORE_API int32 Find(FStringView Text) const;
 
-	/** An empty text is found at no place. @return the first character's index, or INDEX_NONE */
-	CORE_API int32 Find(FStringView Text, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase,
-		ESearchDir::Type SearchDir = ESearchDir::FromStart) const;
+	bool StartsWith(FStringView Prefix) const { return Mid(0, Prefix.Len()) == FString(Prefix); }
 
-	CORE_API bool StartsWith(FStringView Prefix, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase) const;
-	CORE_API bool EndsWith(FStringView Suffix, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase) const;
+	bool EndsWith(FStringView Suffix) const { return Mid(Len() - Suffix.Len()) == FString(Suffix); }
 
 	/** A copy of Count characters from Start; what lies outside is left out. */
 	[[nodiscard]] CORE_API FString Mid(int32 Start, int32 Count = INT32_MAX) const;
 
 	[[nodiscard]] CORE_API FString ToLower() const;
 
-	/** A copy with every From replaced; an empty From replaces nothing. */
-	[[nodiscard]] CORE_API FString Replace(
-		FStringView From, FStringView To, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase) const;
+	friend bool operator==(const FString& A, const FString& B) { return A.ToLower().Equals(B.ToLower()); }
 
-	friend bool operator==(const FString& A, const FString& B) { return A.Equals(B, ESearchCase::IgnoreCase); }
-
-	friend bool operator<(const FString& A, const FString& B) { return A.Compare(B, ESearchCase::IgnoreCase) < 0; }
+	friend bool operator<(const FString& A, const FString& B) { return A.ToLower().Data < B.ToLower().Data; }
 
 private:
 	CORE_API static FString PrintfImpl(const TCHAR* Format, ...);

@@ -1,9 +1,27 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Containers/Array.h"
 #include "Delegates/UnicastDelegate.h"
 #include "Host/Trace.h"
+
+#include <vector>
+
+/** Names one binding. Valid means that it was once bound, not that it still is. */
+class FDelegateHandle
+{
+public:
+	/** Unique in the process. Any thread. */
+	CORE_API static FDelegateHandle New();
+
+	bool IsValid() const { return ID != 0; }
+
+	void Reset() { ID = 0; }
+
+	friend bool operator==(const FDelegateHandle&, const FDelegateHandle&) = default;
+
+private:
+	uint64 ID = 0;
+};
 
 /**
  * Any number of bound functions. Not for use by several threads at once. Bound functions may add and remove bindings,
@@ -23,9 +41,6 @@ public:
 	/** Every use is written to the host's trace under this name, which must outlive the delegate. */
 	explicit TMulticastDelegate(const TCHAR* InTraceName) : TraceName(InTraceName) {}
 
-	TMulticastDelegate(const TMulticastDelegate&) = delete;
-	TMulticastDelegate& operator=(const TMulticastDelegate&) = delete;
-
 	/** Appends, also what is bound already. @return invalid for an unbound delegate, which is not added */
 	FDelegateHandle Add(FDelegate NewDelegate)
 	{
@@ -37,42 +52,21 @@ public:
 		{
 			HostTrace::Line(TEXT("bind %s"), TraceName);
 		}
-		const FDelegateHandle Handle(FDelegateHandle::GenerateNewHandle);
-		Entries.Add({Handle, std::move(NewDelegate)});
+		const FDelegateHandle Handle = FDelegateHandle::New();
+		Entries.push_back({Handle, std::move(NewDelegate)});
 		return Handle;
 	}
 
-	template <typename... ArgTypes>
-	FDelegateHandle AddRaw(ArgTypes&&... Args)
+	template <typename UserClass, typename MethodType>
+	FDelegateHandle AddRaw(UserClass* InUserObject, MethodType MethodPtr)
 	{
-		return Add(FDelegate::CreateRaw(std::forward<ArgTypes>(Args)...));
-	}
-
-	template <typename... ArgTypes>
-	FDelegateHandle AddSP(ArgTypes&&... Args)
-	{
-		return Add(FDelegate::CreateSP(std::forward<ArgTypes>(Args)...));
-	}
-
-	template <typename... ArgTypes>
-	FDelegateHandle AddLambda(ArgTypes&&... Args)
-	{
-		return Add(FDelegate::CreateLambda(std::forward<ArgTypes>(Args)...));
-	}
-
-	template <typename... ArgTypes>
-	FDelegateHandle AddStatic(ArgTypes&&... Args)
-	{
-		return Add(FDelegate::CreateStatic(std::forward<ArgTypes>(Args)...));
+		return Add(FDelegate::CreateRaw(InUserObject, MethodPtr));
 	}
 
 	/** @return false for a handle that is invalid or no longer bound here */
 	bool Remove(FDelegateHandle Handle)
 	{
-		const bool bRemoved =
-			Handle.IsValid() && UnbindWhere([Handle](const FEntry& E) { return E.Handle == Handle; }) > 0;
-		TraceUnbind(bRemoved ? 1 : 0);
-		return bRemoved;
+		return UnbindWhere([Handle](const FEntry& E) { return Handle.IsValid() && E.Handle == Handle; }) > 0;
 	}
 
 	/**
@@ -81,25 +75,13 @@ public:
 	 */
 	int32 RemoveAll(const void* UserObject)
 	{
-		const int32 Count = UnbindWhere([this, UserObject](const FEntry& E)
+		return UnbindWhere([this, UserObject](const FEntry& E)
 			{ return E.Delegate.IsBoundToObject(UserObject) || (Broadcasts == 0 && !E.Delegate.IsBound()); });
-		TraceUnbind(Count);
-		return Count;
-	}
-
-	void Clear()
-	{
-		UnbindWhere([](const FEntry&) { return true; });
-	}
-
-	bool IsBound() const
-	{
-		return Entries.ContainsByPredicate([](const FEntry& E) { return E.Delegate.IsBound(); });
 	}
 
 	bool IsBoundToObject(const void* UserObject) const
 	{
-		return Entries.ContainsByPredicate(
+		return std::any_of(Entries.begin(), Entries.end(),
 			[UserObject](const FEntry& E) { return E.Delegate.IsBoundToObject(UserObject); });
 	}
 
@@ -111,7 +93,7 @@ public:
 			HostTrace::Line(TEXT("broadcast %s"), TraceName);
 		}
 		++Broadcasts;
-		for (int32 Index = Entries.Num() - 1; Index >= 0; --Index)
+		for (size_t Index = Entries.size(); Index-- > 0;)
 		{
 			// A copy: the call may let the entries move.
 			const FDelegate Delegate = Entries[Index].Delegate;
@@ -132,43 +114,38 @@ private:
 	int32 UnbindWhere(Predicate Pred)
 	{
 		int32 Count = 0;
-		for (int32 Index = 0; Index < Entries.Num(); ++Index)
+		for (FEntry& Entry : Entries)
 		{
-			if (Pred(Entries[Index]))
+			if (Pred(Entry))
 			{
-				Entries[Index] = FEntry();
+				Entry = FEntry();
 				++Count;
 			}
 		}
 		Compact();
+		if (TraceName)
+		{
+			HostTrace::Line(TEXT("unbind %s (%d)"), TraceName, Count);
+		}
 		return Count;
 	}
 
 	/** Entries keep their places during a broadcast, so that its walk stays right. */
 	void Compact() const
 	{
-		for (int32 Index = 0; Broadcasts == 0 && Index < Entries.Num();)
+		for (size_t Index = 0; Broadcasts == 0 && Index < Entries.size();)
 		{
 			if (Entries[Index].Delegate.IsBound())
 			{
 				++Index;
+				continue;
 			}
-			else
-			{
-				Entries.RemoveAtSwap(Index);
-			}
-		}
-	}
-
-	void TraceUnbind(int32 Count) const
-	{
-		if (TraceName)
-		{
-			HostTrace::Line(TEXT("unbind %s (%d)"), TraceName, Count);
+			std::swap(Entries[Index], Entries.back());
+			Entries.pop_back();
 		}
 	}
 
 	const TCHAR* TraceName = nullptr;
-	mutable TArray<FEntry> Entries;
+	mutable std::vector<FEntry> Entries;
 	mutable int32 Broadcasts = 0;
 };

@@ -3,14 +3,10 @@
 
 #include <mutex>
 
-/** A lock that its owning thread may take again. */
+/** A lock that its owning thread may take again; see FScopeLock. */
 class FCriticalSection
 {
-public:
-	void Lock() { Mutex.lock(); }
+	friend class FScopeLock;
 
-	void Unlock() { Mutex.unlock(); }
-
-private:
 	std::recursive_mutex Mutex;
 };

@@ -5,18 +5,14 @@
 #include <cstddef>
 #include <cstdint>
 
-using int8 = std::int8_t;
-using int16 = std::int16_t;
 using int32 = std::int32_t;
 using int64 = std::int64_t;
 using uint8 = std::uint8_t;
-using uint16 = std::uint16_t;
 using uint32 = std::uint32_t;
 using uint64 = std::uint64_t;
 
 using ANSICHAR = char;
 using WIDECHAR = wchar_t;
-using UTF8CHAR = char8_t;
 using TCHAR = WIDECHAR;
 
 static_assert(sizeof(TCHAR) == 2, "Strings are UTF-16.");
@@ -30,11 +26,9 @@ static_assert(sizeof(TCHAR) == 2, "Strings are UTF-16.");
 #define DLLIMPORT __declspec(dllimport)
 
 #ifdef _MSC_VER
-#define FORCEINLINE __forceinline
 #define THIRD_PARTY_INCLUDES_START __pragma(warning(push, 0))
 #define THIRD_PARTY_INCLUDES_END __pragma(warning(pop))
 #else
-#define FORCEINLINE inline
 #define THIRD_PARTY_INCLUDES_START                                                                                     \
 	_Pragma("GCC diagnostic push") _Pragma("GCC diagnostic ignored \"-Wshadow\"")                                      \
 		_Pragma("GCC diagnostic ignored \"-Wconversion\"") _Pragma("GCC diagnostic ignored \"-Wsign-compare\"")        \

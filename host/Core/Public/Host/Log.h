@@ -14,10 +14,4 @@ CORE_API bool OpenFile(const FString& Path);
 
 /** Nothing without an open file. */
 CORE_API void CloseFile();
-
-/** Shows lines on standard output: Display and worse, or all of them. */
-CORE_API void ShowOnStandardOutput(bool bAll);
-
-/** Further lines carry time (UTC) and frame; those of the editor's first steps do not. */
-CORE_API void StartTimeStamps();
 } // namespace HostLog

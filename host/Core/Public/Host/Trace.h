@@ -2,17 +2,15 @@
 // The host's own record of what happens in which order.
 #pragma once
 
-#include "Containers/UnrealString.h"
+#include "Misc/OutputDeviceRedirector.h"
+#include "UObject/NameTypes.h"
 
 namespace HostTrace
 {
-/** Writes a line to category LogHostTrace at Log. Any thread. */
-CORE_API void Write(const FString& Text);
-
-/** As above, formatted as by FString::Printf. */
+/** Writes a line to category LogHostTrace at Log, formatted as by FString::Printf. Any thread. */
 template <size_t Size, typename... ArgTypes>
 void Line(const TCHAR (&Format)[Size], ArgTypes... Args)
 {
-	Write(FString::Printf(Format, Args...));
+	GLog->Serialize(*FString::Printf(Format, Args...), ELogVerbosity::Log, "LogHostTrace");
 }
 } // namespace HostTrace

@@ -8,10 +8,10 @@ class FCulture
 {
 public:
 	/** @param InName such as "en" or "fr-CA" */
-	CORE_API explicit FCulture(const FString& InName);
+	explicit FCulture(const FString& InName) : Language(InName.Mid(0, (InName + TEXT("-")).Find(TEXT("-")))) {}
 
 	/** The part before the region, such as "fr". */
-	CORE_API const FString& GetTwoLetterISOLanguageName() const;
+	const FString& GetTwoLetterISOLanguageName() const { return Language; }
 
 private:
 	FString Language;

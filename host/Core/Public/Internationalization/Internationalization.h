@@ -5,8 +5,7 @@
 
 class FCulture;
 
-using FCulturePtr = TSharedPtr<FCulture, ESPMode::ThreadSafe>;
-using FCultureRef = TSharedRef<FCulture, ESPMode::ThreadSafe>;
+using FCultureRef = TSharedRef<FCulture>;
 
 /** The process's language. Set by the host; game thread. */
 class FInternationalization
@@ -15,12 +14,5 @@ public:
 	CORE_API static FInternationalization& Get();
 
 	/** Fatal when there is none. */
-	FCultureRef GetCurrentCulture() const { return CurrentLanguage.ToSharedRef(); }
-
-private:
-	friend struct FCultureSetter;
-
-	FInternationalization() = default;
-
-	FCulturePtr CurrentLanguage;
+	CORE_API FCultureRef GetCurrentCulture() const;
 };

@@ -13,8 +13,6 @@ public:
 
 	static FText FromName(const FName& Name) { return FText(Name.ToString()); }
 
-	CORE_API static const FText& GetEmpty();
-
 	const FString& ToString() const { return Text; }
 
 	bool IsEmpty() const { return Text.IsEmpty(); }

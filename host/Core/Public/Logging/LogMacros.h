@@ -2,38 +2,39 @@
 // Log lines by category and verbosity. Any thread.
 #pragma once
 
-#include "Logging/LogCategory.h"
+#include "Misc/OutputDeviceRedirector.h"
+#include "UObject/NameTypes.h"
 
-/** What the macros call. */
-struct FMsg
+/** What log lines are sorted by. Lines below its verbosity are dropped. */
+struct FLogCategoryBase
 {
-	/** Sends a line to GLog; a fatal one ends the process like a failed check. */
-	CORE_API static void Log(
-		const ANSICHAR* File, int32 Line, const FName& Category, ELogVerbosity::Type Verbosity, const FString& Message);
+	FName Name;
+	ELogVerbosity::Type Verbosity;
 };
 
 /** The format must be a TEXT literal; its arguments follow. */
-#define UE_LOG(CategoryName, Verbosity, ...)                                                                           \
+#define UE_LOG(CategoryName, LineVerbosity, ...)                                                                       \
 	do                                                                                                                 \
 	{                                                                                                                  \
-		if (!CategoryName.IsSuppressed(ELogVerbosity::Verbosity))                                                      \
+		if (ELogVerbosity::LineVerbosity <= CategoryName.Verbosity)                                                    \
 		{                                                                                                              \
-			FMsg::Log(__FILE__, __LINE__, CategoryName.GetCategoryName(), ELogVerbosity::Verbosity,                    \
-				FString::Printf(__VA_ARGS__));                                                                         \
+			GLog->Serialize(*FString::Printf(__VA_ARGS__), ELogVerbosity::LineVerbosity, CategoryName.Name);           \
 		}                                                                                                              \
 	} while (false)
 
+// The compile-time verbosity is not looked at: it is All everywhere.
+
 /** Ends without semicolon; may stand behind an export macro. */
 #define DECLARE_LOG_CATEGORY_EXTERN(CategoryName, DefaultVerbosity, CompileTimeVerbosity)                              \
-	extern class FLogCategory##CategoryName                                                                            \
-		: public FLogCategory<ELogVerbosity::DefaultVerbosity, ELogVerbosity::CompileTimeVerbosity>                    \
+	extern struct FLogCategory##CategoryName : FLogCategoryBase                                                        \
 	{                                                                                                                  \
-	public:                                                                                                            \
-		FLogCategory##CategoryName() : FLogCategory(TEXT(#CategoryName)) {}                                            \
+		FLogCategory##CategoryName() : FLogCategoryBase{TEXT(#CategoryName), ELogVerbosity::DefaultVerbosity} {}       \
 	} CategoryName
 
 #define DEFINE_LOG_CATEGORY(CategoryName) FLogCategory##CategoryName CategoryName
 
 #define DEFINE_LOG_CATEGORY_STATIC(CategoryName, DefaultVerbosity, CompileTimeVerbosity)                               \
-	static FLogCategory<ELogVerbosity::DefaultVerbosity, ELogVerbosity::CompileTimeVerbosity> CategoryName(            \
-		TEXT(#CategoryName))
+	static const FLogCategoryBase CategoryName                                                                         \
+	{                                                                                                                  \
+		TEXT(#CategoryName), ELogVerbosity::DefaultVerbosity                                                           \
+	}

@@ -8,9 +8,7 @@ namespace ELogVerbosity
 /** From worst to least. */
 enum Type : uint8
 {
-	NoLogging = 0,
-	Fatal,
-	Error,
+	Error = 2,
 	Warning,
 	Display,
 	Log,

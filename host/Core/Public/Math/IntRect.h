@@ -11,8 +11,4 @@ struct FIntRect
 
 	constexpr FIntRect() = default;
 	constexpr FIntRect(int32 X0, int32 Y0, int32 X1, int32 Y1) : Min(X0, Y0), Max(X1, Y1) {}
-
-	int32 Width() const { return Max.X - Min.X; }
-
-	int32 Height() const { return Max.Y - Min.Y; }
 };

@@ -8,8 +8,8 @@
 struct FDebug
 {
 	/**
-	 * Logs the failure, prints it to the standard error stream, flushes both and ends the process at once with exit
-	 * code 3: nothing is unwound, shut down or saved. The message may be empty.
+	 * Logs the failure, prints it to the standard error stream and ends the process at once with exit code 3: nothing is
+	 * unwound, shut down or saved. The message may be empty; no call stack is written.
 	 */
 	[[noreturn]] CORE_API static void CheckFailed(
 		const ANSICHAR* Expression, const ANSICHAR* File, int32 Line, const FString& Message);
@@ -17,9 +17,6 @@ struct FDebug
 	/** Logs the failure the first time that this line of this file fails. @return false */
 	CORE_API static bool EnsureFailed(
 		const ANSICHAR* Expression, const ANSICHAR* File, int32 Line, const FString& Message);
-
-	/** Ends the process like a failed check, with a text of its own. */
-	[[noreturn]] CORE_API static void Fatal(const ANSICHAR* File, int32 Line, const FString& Message);
 };
 
 #define HOST_CHECK(Text, Expression, ...)                                                                              \
@@ -31,24 +28,11 @@ struct FDebug
 		}                                                                                                              \
 	} while (false)
 
-#define HOST_ENSURE(Text, Expression, ...)                                                                             \
-	(static_cast<bool>(Expression) || FDebug::EnsureFailed(Text, __FILE__, __LINE__, FString::Printf(__VA_ARGS__)))
-
 #define check(Expression) HOST_CHECK(#Expression, Expression, TEXT(""))
-#define verify(Expression) HOST_CHECK(#Expression, Expression, TEXT(""))
 /** The message's format and arguments follow. */
 #define checkf(Expression, ...) HOST_CHECK(#Expression, Expression, __VA_ARGS__)
 
-/** Both give the truth of the expression. */
-#define ensure(Expression) HOST_ENSURE(#Expression, Expression, TEXT(""))
-#define ensureMsgf(Expression, ...) HOST_ENSURE(#Expression, Expression, __VA_ARGS__)
-
-/** Compiled, never evaluated: slow checks belong to debug engines. */
-#define checkSlow(Expression)                                                                                          \
-	do                                                                                                                 \
-	{                                                                                                                  \
-		if (false)                                                                                                     \
-		{                                                                                                              \
-			static_cast<void>(Expression);                                                                             \
-		}                                                                                                              \
-	} while (false)
+/** Gives the truth of the expression. The message's format and arguments follow. */
+#define ensureMsgf(Expression, ...)                                                                                    \
+	(static_cast<bool>(Expression) ||                                                                                  \
+		FDebug::EnsureFailed(#Expression, __FILE__, __LINE__, FString::Printf(__VA_ARGS__)))

@@ -8,8 +8,6 @@ template <typename ObjectType>
 class TAttribute
 {
 public:
-	using FGetter = TDelegate<ObjectType()>;
-
 	TAttribute() = default;
 
 	template <typename OtherType>
@@ -21,16 +19,8 @@ public:
 	/** The object is watched, not kept alive; it must have owners already. */
 	template <class SourceType>
 	TAttribute(SourceType* InUserObject, ObjectType (std::type_identity_t<SourceType>::*InMethodPtr)() const)
-		: TAttribute(Create(FGetter::CreateSP(InUserObject, InMethodPtr)))
+		: Getter(TDelegate<ObjectType()>::CreateSP(InUserObject, InMethodPtr)), bIsSet(true)
 	{
-	}
-
-	static TAttribute Create(const FGetter& InGetter)
-	{
-		TAttribute Attribute;
-		Attribute.bIsSet = true;
-		Attribute.Getter = InGetter;
-		return Attribute;
 	}
 
 	bool IsSet() const { return bIsSet; }
@@ -47,6 +37,6 @@ public:
 
 private:
 	mutable ObjectType Value{};
-	FGetter Getter;
+	TDelegate<ObjectType()> Getter;
 	bool bIsSet = false;
 };

@@ -25,27 +25,24 @@ public:
 private:
 	struct FLine
 	{
+		/** As it stands in the file. */
+		FString Text;
+
+		/** Empty above the first section. */
+		FString Section;
+
 		/** Empty for lines that are no "Key=Value". */
 		FString Key;
 		FString Value;
-
-		/** The line as read, for what is written back unchanged. */
-		FString Text;
 	};
 
-	struct FSection
-	{
-		/** Empty for what stands above the first section. */
-		FString Name;
-		TArray<FLine> Lines;
-	};
-
-	using FFile = TArray<FSection>;
+	/** A section ends with an empty line. */
+	using FFile = std::vector<FLine>;
 
 	FFile& Open(const FString& Filename);
-	static FSection* FindSection(FFile& File, const TCHAR* Name);
+	static FFile Read(const FString& Filename);
 
-	TMap<FString, TSharedPtr<FFile>> Files;
+	TMap<FString, FFile> Files;
 };
 
 /** The one cache; never null. */

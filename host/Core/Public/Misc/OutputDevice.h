@@ -13,6 +13,4 @@ public:
 
 	/** The text has no trailing line end, but may have several lines. */
 	virtual void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) = 0;
-
-	virtual void Flush() {}
 };

@@ -17,7 +17,6 @@ public:
 	CORE_API void RemoveOutputDevice(FOutputDevice* OutputDevice);
 
 	CORE_API void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override;
-	CORE_API void Flush() override;
 
 private:
 	FOutputDeviceRedirector() = default;

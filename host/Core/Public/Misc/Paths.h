@@ -16,15 +16,11 @@ public:
 		return Combined;
 	}
 
-	/** Empty until the host has set the project. */
-	CORE_API static FString ProjectDir();
-
 	/** The assets. */
 	CORE_API static FString ProjectContentDir();
 
 	/** What the editor writes. */
 	CORE_API static FString ProjectSavedDir();
-	CORE_API static FString ProjectLogDir();
 
 	/** What stands before the last "/"; empty without one. */
 	CORE_API static FString GetPath(const FString& Path);

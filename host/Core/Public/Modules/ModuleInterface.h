@@ -13,16 +13,8 @@ public:
 	/** Called at the editor's exit, before any module is shut down. */
 	virtual void PreUnloadCallback() {}
 
-	virtual void PostLoadCallback() {}
-
 	/** Called once, right before the module object is destroyed. */
 	virtual void ShutdownModule() {}
-
-	virtual bool SupportsDynamicReloading() { return true; }
-
-	virtual bool SupportsAutomaticShutdown() { return true; }
-
-	virtual bool IsGameModule() const { return false; }
 };
 
 /** A module without behaviour of its own. */

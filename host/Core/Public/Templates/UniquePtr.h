@@ -11,7 +11,6 @@ class TUniquePtr
 {
 public:
 	TUniquePtr() = default;
-	TUniquePtr(std::nullptr_t) {}
 	explicit TUniquePtr(T* InObject) : Object(InObject) {}
 
 	template <typename OtherType>
@@ -20,8 +19,6 @@ public:
 	}
 
 	bool IsValid() const { return Object != nullptr; }
-
-	explicit operator bool() const { return IsValid(); }
 
 	T* Get() const { return Object.get(); }
 
@@ -32,9 +29,7 @@ public:
 	/** Gives the ownership to the caller. */
 	T* Release() { return Object.release(); }
 
-	void Reset(T* InObject = nullptr) { Object.reset(InObject); }
-
-	friend bool operator==(const TUniquePtr& Pointer, std::nullptr_t) { return !Pointer.IsValid(); }
+	void Reset() { Object.reset(); }
 
 private:
 	std::unique_ptr<T> Object;

@@ -4,24 +4,23 @@
 #include "Misc/Paths.h"
 #include "UObject/UObjectGlobals.h"
 
+FAssetData::FAssetData(const FString& Package, const FString& ClassPath)
+	: PackageName(Package)
+	, PackagePath(FPaths::GetPath(Package))
+	, AssetName(Package.Mid(FPaths::GetPath(Package).Len() + 1))
+	, AssetClassPath(ClassPath)
+{
+}
+
 FAssetData::FAssetData(const UObject* InAsset)
 {
 	if (InAsset)
 	{
-		const FString Package = InAsset->GetPackage()->GetName();
-		PackageName = FName(Package);
-		PackagePath = FName(FPaths::GetPath(Package));
-		AssetName = InAsset->GetFName();
-		AssetClassPath = FTopLevelAssetPath(InAsset->GetClass()->GetPathName());
+		*this = FAssetData(InAsset->GetPackage()->GetName(), InAsset->GetClass()->GetPathName());
 	}
 }
 
 UClass* FAssetData::GetClass() const
 {
 	return static_cast<UClass*>(StaticFindObject(UClass::StaticClass(), *AssetClassPath.ToString()));
-}
-
-UObject* FAssetData::GetAsset() const
-{
-	return IsValid() ? StaticLoadObject(UObject::StaticClass(), *GetObjectPathString()) : nullptr;
 }

@@ -16,19 +16,15 @@ namespace
 constexpr const TCHAR* Extension = TEXT(".asset");
 constexpr const TCHAR* Section = TEXT("Asset");
 constexpr const TCHAR* ClassKey = TEXT("Class");
-constexpr const TCHAR* ContentRoot = TEXT("/Game/");
+const FString ContentRoot = TEXT("/Game/");
 
 /** By path. */
-std::map<FString, FAssetData>& Registry()
-{
-	static std::map<FString, FAssetData> Assets;
-	return Assets;
-}
+std::map<FString, FAssetData> Registry;
 
 /** The file of a package such as "/Game/Looks/Warm". */
 FString FileOf(const FString& ContentFolder, const FString& Package)
 {
-	return FPaths::Combine(ContentFolder, *Package.Replace(ContentRoot, TEXT(""))) + Extension;
+	return FPaths::Combine(ContentFolder, Package.Mid(ContentRoot.Len())) + Extension;
 }
 
 FString FileOf(const FAssetData& Asset)
@@ -38,7 +34,7 @@ FString FileOf(const FAssetData& Asset)
 
 void Register(const FAssetData& Asset)
 {
-	Registry()[Asset.GetObjectPathString()] = Asset;
+	Registry[Asset.GetObjectPathString()] = Asset;
 }
 
 void RegisterFile(const std::filesystem::path& File, const std::filesystem::path& ContentFolder)
@@ -49,9 +45,7 @@ void RegisterFile(const std::filesystem::path& File, const std::filesystem::path
 		return;
 	}
 	const std::filesystem::path Package = File.lexically_relative(ContentFolder).replace_extension();
-	const FString PackageName = FString(ContentRoot) + Package.generic_wstring().c_str();
-	Register({FName(PackageName), FName(FPaths::GetPath(PackageName)), FName(Package.filename().c_str()),
-		FTopLevelAssetPath(Class[0])});
+	Register(FAssetData(ContentRoot + Package.generic_wstring().c_str(), Class[0]));
 }
 
 UObject* Load(const FAssetData& Asset)
@@ -84,7 +78,7 @@ void HostAssets::Scan()
 TArray<FAssetData> HostAssets::GetAll()
 {
 	TArray<FAssetData> Assets;
-	for (const auto& [Path, Asset] : Registry())
+	for (const auto& [Path, Asset] : Registry)
 	{
 		Assets.Add(Asset);
 	}
@@ -97,17 +91,9 @@ void HostAssets::Add(UObject& Asset)
 	Asset.MarkPackageDirty();
 }
 
-void HostAssets::Delete(UObject& Asset)
-{
-	std::error_code Ignored;
-	std::filesystem::remove(*FileOf(&Asset), Ignored);
-	Registry().erase(Asset.GetPathName());
-	Asset.MarkAsGarbage();
-}
-
 void HostAssets::SaveDirtyPackages()
 {
-	for (const auto& [Path, Asset] : Registry())
+	for (const auto& [Path, Asset] : Registry)
 	{
 		UObject* Object = StaticFindObject(UObject::StaticClass(), *Path);
 		if (!Object || !Object->GetPackage()->IsDirty())
@@ -132,8 +118,8 @@ void HostAssets::Write(const FString& ProjectFolder, const FString& ClassPath, c
 UObject* StaticLoadObject(UClass* Class, const TCHAR* Path)
 {
 	UObject* Found = StaticFindObject(UObject::StaticClass(), Path);
-	const auto Asset = Registry().find(Path);
-	if (!Found && Asset != Registry().end())
+	const auto Asset = Registry.find(Path);
+	if (!Found && Asset != Registry.end())
 	{
 		Found = Load(Asset->second);
 	}

@@ -12,21 +12,6 @@ std::vector<FRegisterCompiledInInfo::FMake>& PendingTypes()
 	return Makers;
 }
 
-const FString& FindMetaData(const TMap<FName, FString>& MetaData, const FName& Key)
-{
-	static const FString None;
-	const FString* Found = MetaData.Find(Key);
-	return Found ? *Found : None;
-}
-
-void Fill(TMap<FName, FString>& Target, HostReflection::FMetaData MetaData)
-{
-	for (const auto& [Key, Value] : MetaData)
-	{
-		Target.Add(FName(Key), FString(Value));
-	}
-}
-
 /** A type object of the given class. */
 template <class T>
 T* NewType(UClass* TypeClass, UObject* Outer, const TCHAR* Name)
@@ -36,16 +21,22 @@ T* NewType(UClass* TypeClass, UObject* Outer, const TCHAR* Name)
 	return new (Type) T();
 }
 
+/** Fills in a new class. */
+UClass* Define(UClass* Class, size_t Size, const TCHAR* ConfigName, UClass::FConstructor Constructor, UClass* Super)
+{
+	Class->SuperStruct = Super;
+	Class->PropertiesSize = static_cast<int32>(Size);
+	Class->ClassConfigName = FName(ConfigName);
+	Class->ClassFlags = CLASS_Native | (Class->ClassConfigName.IsNone() ? 0 : CLASS_Config);
+	Class->ClassConstructor = Constructor;
+	return Class;
+}
+
 /** Classes that the object system itself is made of; they lie in no package. */
 template <class T>
 UClass* CoreClass(const TCHAR* Name, UClass* Super)
 {
-	UClass* Class = NewType<UClass>(nullptr, nullptr, Name);
-	Class->SuperStruct = Super;
-	Class->PropertiesSize = sizeof(T);
-	Class->ClassFlags = CLASS_Native;
-	Class->ClassConstructor = [](const FObjectInitializer& Initializer) { new (Initializer.GetObj()) T(); };
-	return Class;
+	return Define(NewType<UClass>(nullptr, nullptr, Name), sizeof(T), TEXT(""), &HostReflection::Construct<T>, Super);
 }
 } // namespace
 
@@ -78,12 +69,7 @@ UClass* UPackage::StaticClass()
 
 bool UStruct::IsChildOf(const UStruct* SomeBase) const
 {
-	const UStruct* Type = this;
-	while (Type && Type != SomeBase)
-	{
-		Type = Type->SuperStruct;
-	}
-	return Type != nullptr;
+	return this == SomeBase || (SuperStruct && SuperStruct->IsChildOf(SomeBase));
 }
 
 FProperty* UStruct::FindPropertyByName(FName Name) const
@@ -98,14 +84,11 @@ FProperty* UStruct::FindPropertyByName(FName Name) const
 	return SuperStruct ? SuperStruct->FindPropertyByName(Name) : nullptr;
 }
 
-const FString& UStruct::GetMetaData(const FName& Key) const
+const FString& FMetaDataOwner::GetMetaData(const FName& Key) const
 {
-	return FindMetaData(MetaData, Key);
-}
-
-const FString& FProperty::GetMetaData(const FName& Key) const
-{
-	return FindMetaData(MetaData, Key);
+	static const FString None;
+	const FString* Found = MetaData.Find(Key);
+	return Found ? *Found : None;
 }
 
 UObject* UClass::GetDefaultObject()
@@ -122,37 +105,33 @@ UObject* UClass::GetDefaultObject()
 	return DefaultObject;
 }
 
-UClass* HostReflection::NewClass(const TCHAR* Package, const TCHAR* Name, size_t Size, uint32 Flags,
-	const TCHAR* ConfigName, UClass::FConstructor Constructor, UClass* Super)
+UClass* HostReflection::NewClass(const TCHAR* Package, const TCHAR* Name, size_t Size, const TCHAR* ConfigName,
+	UClass::FConstructor Constructor, UClass* Super)
 {
 	UClass* Class = NewType<UClass>(UClass::StaticClass(), CreatePackage(Package), Name);
-	Class->SuperStruct = Super;
-	Class->PropertiesSize = static_cast<int32>(Size);
-	Class->ClassFlags = Flags;
-	Class->ClassConfigName = FName(ConfigName);
-	Class->ClassConstructor = Constructor;
-	return Class;
+	return Define(Class, Size, ConfigName, Constructor, Super);
 }
 
-UScriptStruct* HostReflection::NewStruct(const TCHAR* Package, const TCHAR* Name, size_t Size,
-	const UScriptStruct::FOperations& Operations, UScriptStruct* Super)
+UScriptStruct* HostReflection::NewStruct(const TCHAR* Package, const TCHAR* Name, size_t Size, UScriptStruct* Super)
 {
 	UScriptStruct* Struct = NewType<UScriptStruct>(UScriptStruct::StaticClass(), CreatePackage(Package), Name);
 	Struct->SuperStruct = Super;
 	Struct->PropertiesSize = static_cast<int32>(Size);
-	Struct->Operations = Operations;
 	return Struct;
 }
 
-void HostReflection::AddMetaData(UStruct* Type, FMetaData MetaData)
+void HostReflection::AddMetaData(FMetaDataOwner* Owner, FMetaData MetaData)
 {
-	Fill(Type->MetaData, MetaData);
+	for (const auto& [Key, Value] : MetaData)
+	{
+		Owner->MetaData.Add(Key, Value);
+	}
 }
 
 void HostReflection::AddProperty(UStruct* Type, FProperty* Property, FMetaData MetaData)
 {
 	Type->Properties.emplace_back(Property);
-	Fill(Property->MetaData, MetaData);
+	AddMetaData(Property, MetaData);
 }
 
 FRegisterCompiledInInfo::FRegisterCompiledInInfo(std::initializer_list<FMake> Makers)

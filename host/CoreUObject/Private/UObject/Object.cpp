@@ -4,16 +4,25 @@
 #include "UObject/Class.h"
 #include "UObject/UObjectGlobals.h"
 
-UObject::UObject() : InternalIndex(HostObjects::Add(this))
+UObject::UObject()
 {
-	FObjectInitializer::Settle(*this);
+	HostObjects::Add(this);
+	// Objects that the host makes without NewObject have no initializer of their own.
+	const FObjectInitializer* Initializer = FObjectInitializer::Innermost;
+	if (Initializer && Initializer->Object == this)
+	{
+		ClassPrivate = Initializer->Class;
+		OuterPrivate = Initializer->Outer;
+		NamePrivate = Initializer->Name;
+		ObjectFlags = Initializer->Flags;
+	}
 }
 
 UObject::UObject(const FObjectInitializer&) : UObject() {}
 
 UObject::~UObject()
 {
-	HostObjects::Remove(InternalIndex);
+	HostObjects::Remove(this);
 }
 
 FString UObject::GetPathName() const
@@ -23,12 +32,7 @@ FString UObject::GetPathName() const
 
 UPackage* UObject::GetPackage() const
 {
-	const UObject* Outermost = this;
-	while (Outermost->OuterPrivate)
-	{
-		Outermost = Outermost->OuterPrivate;
-	}
-	return static_cast<UPackage*>(const_cast<UObject*>(Outermost));
+	return OuterPrivate ? OuterPrivate->GetPackage() : static_cast<UPackage*>(const_cast<UObject*>(this));
 }
 
 bool UObject::MarkPackageDirty() const

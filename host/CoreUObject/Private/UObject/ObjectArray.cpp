@@ -1,38 +1,24 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
-#include "UObject/WeakObjectPtr.h"
 
 #include "Modules/ModuleManager.h"
 
-#include <vector>
-
 namespace
 {
-struct FObjectItem
-{
-	UObject* Object = nullptr;
-	int32 SerialNumber = 0;
-};
-
-std::vector<FObjectItem>& Items()
-{
-	static std::vector<FObjectItem> Array;
-	return Array;
-}
+/** In the order in which they were made. */
+std::vector<UObject*> Objects;
 
 bool bInitialized = false;
 
-void DestroyWhere(bool (*Condition)(const UObject&))
+template <typename Predicate>
+void DestroyWhere(Predicate Pred)
 {
 	// An object may make or destroy others in its destructor: no iterator is kept.
-	for (size_t Index = Items().size(); Index-- > 0;)
+	const auto Newest = [Pred] { return std::find_if(Objects.rbegin(), Objects.rend(), Pred); };
+	for (auto Found = Newest(); Found != Objects.rend(); Found = Newest())
 	{
-		UObject* Object = Items()[Index].Object;
-		if (Object && Condition(*Object))
-		{
-			delete Object;
-		}
+		delete *Found;
 	}
 }
 } // namespace
@@ -42,73 +28,49 @@ bool UObjectInitialized()
 	return bInitialized;
 }
 
-void HostObjects::Init()
+void HostObjects::Init() noexcept
 {
 	bInitialized = true;
-	FModuleManager::Get().OnProcessLoadedObjectsCallback().AddStatic(&ProcessNewlyLoadedUObjects);
+	FModuleManager::Get().OnProcessLoadedObjectsCallback().Add(
+		FSimpleDelegate::CreateStatic(&ProcessNewlyLoadedUObjects));
 	ProcessNewlyLoadedUObjects();
 }
 
 void HostObjects::Shutdown()
 {
-	DestroyWhere([](const UObject&) { return true; });
+	DestroyWhere([](const UObject*) { return true; });
 	bInitialized = false;
 }
 
-int32 HostObjects::Add(UObject* Object)
+size_t HostObjects::Num()
+{
+	return Objects.size();
+}
+
+void HostObjects::Add(UObject* Object)
 {
 	checkf(bInitialized, TEXT("An object was made while the object system is down."));
-	static int32 LastSerialNumber = 0;
-	for (size_t Index = 0; Index < Items().size(); ++Index)
-	{
-		if (!Items()[Index].Object)
-		{
-			Items()[Index] = {Object, ++LastSerialNumber};
-			return static_cast<int32>(Index);
-		}
-	}
-	Items().push_back({Object, ++LastSerialNumber});
-	return static_cast<int32>(Items().size() - 1);
+	Objects.push_back(Object);
 }
 
-void HostObjects::Remove(int32 Index)
+void HostObjects::Remove(UObject* Object)
 {
-	Items()[static_cast<size_t>(Index)].Object = nullptr;
-}
-
-int32 HostObjects::SerialNumber(int32 Index)
-{
-	return Items()[static_cast<size_t>(Index)].SerialNumber;
-}
-
-UObject* HostObjects::Find(int32 Index, int32 SerialNumber)
-{
-	if (Index < 0 || static_cast<size_t>(Index) >= Items().size())
-	{
-		return nullptr;
-	}
-	const FObjectItem& Item = Items()[static_cast<size_t>(Index)];
-	return Item.Object && Item.SerialNumber == SerialNumber && !Item.Object->IsGarbage() ? Item.Object : nullptr;
+	std::erase(Objects, Object);
 }
 
 UObject* HostObjects::FindByName(const UObject* Outer, FName Name)
 {
-	for (const FObjectItem& Item : Items())
-	{
-		if (Item.Object && Item.Object->GetFName() == Name && Item.Object->GetOuter() == Outer &&
-			!Item.Object->IsGarbage())
-		{
-			return Item.Object;
-		}
-	}
-	return nullptr;
+	const auto Found = std::find_if(Objects.begin(), Objects.end(),
+		[Outer, Name](const UObject* Object)
+		{ return Object->GetFName() == Name && Object->GetOuter() == Outer && !Object->IsGarbage(); });
+	return Found == Objects.end() ? nullptr : *Found;
 }
 
 void GetDerivedClasses(const UClass* ClassToLookFor, TArray<UClass*>& Results)
 {
-	for (const FObjectItem& Item : Items())
+	for (UObject* Object : Objects)
 	{
-		UClass* Class = dynamic_cast<UClass*>(Item.Object);
+		UClass* Class = dynamic_cast<UClass*>(Object);
 		if (Class && Class != ClassToLookFor && Class->IsChildOf(ClassToLookFor))
 		{
 			Results.Add(Class);
@@ -118,17 +80,5 @@ void GetDerivedClasses(const UClass* ClassToLookFor, TArray<UClass*>& Results)
 
 void CollectGarbage()
 {
-	DestroyWhere([](const UObject& Object) { return Object.IsGarbage(); });
-}
-
-FWeakObjectPtr& FWeakObjectPtr::operator=(const UObject* Object)
-{
-	ObjectIndex = Object ? Object->GetUniqueID() : -1;
-	ObjectSerialNumber = Object ? HostObjects::SerialNumber(ObjectIndex) : 0;
-	return *this;
-}
-
-UObject* FWeakObjectPtr::Get() const
-{
-	return HostObjects::Find(ObjectIndex, ObjectSerialNumber);
+	DestroyWhere([](const UObject* Object) { return Object->IsGarbage(); });
 }

@@ -1,274 +1,161 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // The text form of property values, as it stands in config files.
-#include "UObject/ObjectPtr.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
 
 #include <cwchar>
+#include <optional>
 
 namespace
 {
-struct FEscape
-{
-	TCHAR Character;
-	TCHAR Letter;
-};
+constexpr std::wstring_view Escaped = L"\n\r\t'\"\\";
+constexpr std::wstring_view Letters = L"nrt'\"\\";
 
-constexpr FEscape Escapes[] = {
-	{L'\n', L'n'}, {L'\r', L'r'}, {L'\t', L't'}, {L'\'', L'\''}, {L'"', L'"'}, {L'\\', L'\\'}};
-
-void AppendQuoted(FString& Out, const FString& Text)
+FString Quoted(const FString& Text)
 {
-	Out += TEXT("\"");
-	for (const TCHAR* At = *Text; *At; ++At)
+	std::wstring Result = L"\"";
+	for (const TCHAR Character : std::wstring_view(*Text))
 	{
-		const FEscape* Escape = std::find_if(
-			std::begin(Escapes), std::end(Escapes), [At](const FEscape& Row) { return Row.Character == *At; });
-		if (Escape != std::end(Escapes))
+		const size_t Escape = Escaped.find(Character);
+		Result += Escape == Escaped.npos ? std::wstring(1, Character) : std::wstring{L'\\', Letters[Escape]};
+	}
+	return FString((Result + L"\"").c_str());
+}
+
+/** What is in the quotes; a text that has none as it is, and nothing for one whose quote is not closed. */
+std::optional<FString> Unquoted(const FString& Text)
+{
+	const std::wstring_view View(*Text);
+	if (!View.starts_with(L'"'))
+	{
+		return Text;
+	}
+	std::wstring Result;
+	for (size_t At = 1; At < View.size(); ++At)
+	{
+		if (View[At] == L'"')
 		{
-			Out += TEXT("\\");
+			return FString(Result.c_str());
 		}
-		const TCHAR Written[] = {Escape != std::end(Escapes) ? Escape->Letter : *At, 0};
-		Out += Written;
+		const size_t Escape = View[At] == L'\\' && At + 1 < View.size() ? Letters.find(View[At + 1]) : Letters.npos;
+		Result += Escape == Letters.npos ? View[At] : Escaped[Escape];
+		At += Escape == Letters.npos ? 0 : 1;
 	}
-	Out += TEXT("\"");
+	return std::nullopt;
 }
 
-void SkipBlanks(const TCHAR*& Cursor)
-{
-	while (*Cursor == L' ' || *Cursor == L'\t')
-	{
-		++Cursor;
-	}
-}
-
-/** A quoted text, or everything up to the next "," or ")". @return false when a quote is not closed */
-bool ReadToken(const TCHAR*& Cursor, FString& Out)
-{
-	const TCHAR* At = Cursor;
-	std::wstring Text;
-	const bool bIsQuoted = *At == L'"';
-	At += bIsQuoted;
-	while (*At && (bIsQuoted ? *At != L'"' : *At != L',' && *At != L')'))
-	{
-		const FEscape* Escape = std::end(Escapes);
-		if (bIsQuoted && At[0] == L'\\')
-		{
-			Escape = std::find_if(
-				std::begin(Escapes), std::end(Escapes), [At](const FEscape& Row) { return Row.Letter == At[1]; });
-			At += Escape != std::end(Escapes);
-		}
-		Text += Escape != std::end(Escapes) ? Escape->Character : *At;
-		++At;
-	}
-	if (bIsQuoted && *At != L'"')
-	{
-		return false;
-	}
-	Cursor = At + bIsQuoted;
-	Out = Text.c_str();
-	return true;
-}
-
-/** Moves behind a value of any form: quotes and nested parentheses are respected. */
-void SkipValue(const TCHAR*& Cursor)
+/** Takes the front up to the next mark outside of quotes and parentheses, and the mark with it. */
+FString Take(std::wstring_view& Rest, TCHAR Mark)
 {
 	int32 Depth = 0;
 	bool bIsQuoted = false;
-	for (; *Cursor && (bIsQuoted || Depth > 0 || (*Cursor != L',' && *Cursor != L')')); ++Cursor)
+	size_t At = 0;
+	for (; At < Rest.size() && (bIsQuoted || Depth > 0 || Rest[At] != Mark); ++At)
 	{
-		if (bIsQuoted && *Cursor == L'\\' && Cursor[1])
-		{
-			++Cursor;
-		}
-		else if (*Cursor == L'"')
+		if (Rest[At] == L'"')
 		{
 			bIsQuoted = !bIsQuoted;
 		}
-		else if (!bIsQuoted)
+		else if (bIsQuoted)
 		{
-			Depth += (*Cursor == L'(') - (*Cursor == L')');
+			At += Rest[At] == L'\\' && At + 1 < Rest.size() ? 1 : 0;
+		}
+		else
+		{
+			Depth += (Rest[At] == L'(') - (Rest[At] == L')');
 		}
 	}
+	std::wstring Front(Rest.substr(0, At));
+	Front.erase(0, Front.find_first_not_of(L" \t"));
+	Rest.remove_prefix(std::min(At + 1, Rest.size()));
+	return FString(Front.c_str());
 }
 
-// One reader and one writer a type.
-
-void Append(FString& Out, bool Value)
-{
-	Out += Value ? TEXT("True") : TEXT("False");
-}
-
-bool Read(const FString& Token, bool& OutValue)
-{
-	const bool bIsTrue = Token == TEXT("True") || Token == TEXT("Yes") || Token == TEXT("1");
-	if (!bIsTrue && Token != TEXT("False") && Token != TEXT("No") && Token != TEXT("0"))
-	{
-		return false;
-	}
-	OutValue = bIsTrue;
-	return true;
-}
-
-void Append(FString& Out, float Value)
-{
-	Out += FString::Printf(TEXT("%f"), static_cast<double>(Value));
-}
-
-bool Read(const FString& Token, float& OutValue)
-{
-	wchar_t* End = nullptr;
-	const float Value = std::wcstof(*Token, &End);
-	if (Token.IsEmpty() || *End)
-	{
-		return false;
-	}
-	OutValue = Value;
-	return true;
-}
-
-void Append(FString& Out, const FName& Value)
-{
-	AppendQuoted(Out, Value.IsNone() ? FString() : Value.ToString());
-}
-
-bool Read(const FString& Token, FName& OutValue)
-{
-	OutValue = Token == TEXT("None") ? FName() : FName(Token);
-	return true;
-}
-
-template <class T>
-constexpr const TCHAR* TypeName = nullptr;
-template <>
-constexpr const TCHAR* TypeName<bool> = TEXT("bool");
-template <>
-constexpr const TCHAR* TypeName<float> = TEXT("float");
-template <>
-constexpr const TCHAR* TypeName<FName> = TEXT("FName");
 } // namespace
 
-template <class T>
-FString TPlainProperty<T>::GetCPPType() const
+FString HostText::Write(bool Value)
 {
-	return TypeName<T>;
+	return Value ? TEXT("True") : TEXT("False");
 }
 
-template <class T>
-void TPlainProperty<T>::AppendText(FString& Out, const void* Value) const
+void HostText::Read(const FString& Text, bool& OutValue)
 {
-	Append(Out, *static_cast<const T*>(Value));
+	const bool bIsTrue = Text == TEXT("True") || Text == TEXT("Yes") || Text == TEXT("1");
+	const bool bIsFalse = Text == TEXT("False") || Text == TEXT("No") || Text == TEXT("0");
+	OutValue = bIsTrue || (OutValue && !bIsFalse);
 }
 
-template <class T>
-bool TPlainProperty<T>::ReadText(const TCHAR*& Cursor, void* Value) const
+FString HostText::Write(float Value)
 {
-	FString Token;
-	return ReadToken(Cursor, Token) && Read(Token, *static_cast<T*>(Value));
+	return FString::Printf(TEXT("%f"), static_cast<double>(Value));
 }
 
-template class TPlainProperty<bool>;
-template class TPlainProperty<float>;
-template class TPlainProperty<FName>;
-
-FString FObjectProperty::GetCPPType() const
+void HostText::Read(const FString& Text, float& OutValue)
 {
-	return TEXT("TObjectPtr<U") + GetPropertyClass()->GetName() + TEXT(">");
+	wchar_t* End = nullptr;
+	const float Value = std::wcstof(*Text, &End);
+	OutValue = Text.IsEmpty() || *End ? OutValue : Value;
 }
 
-void FObjectProperty::AppendText(FString& Out, const void* Value) const
+FString HostText::Write(const FName& Value)
 {
-	const UObject* Object = *static_cast<UObject* const*>(Value);
-	if (!Object)
+	return Quoted(Value.IsNone() ? FString() : Value.ToString());
+}
+
+void HostText::Read(const FString& Text, FName& OutValue)
+{
+	if (const std::optional<FString> Name = Unquoted(Text))
 	{
-		Out += TEXT("None");
-		return;
+		OutValue = FName(*Name);
 	}
-	Out += FString::Printf(TEXT("\"%s'%s'\""), *Object->GetClass()->GetPathName(), *Object->GetPathName());
 }
 
-bool FObjectProperty::ReadText(const TCHAR*& Cursor, void* Value) const
+FString HostText::WriteObject(const UObject* Value)
 {
-	FString Path;
-	if (!ReadToken(Cursor, Path))
+	return Value ? FString::Printf(TEXT("\"%s'%s'\""), *Value->GetClass()->GetPathName(), *Value->GetPathName())
+				 : FString(TEXT("None"));
+}
+
+UObject* HostText::ReadObject(const FString& Text, UClass* Class, UObject* Before)
+{
+	const std::optional<FString> Whole = Unquoted(Text);
+	if (!Whole)
 	{
-		return false;
+		return Before;
 	}
 	// With or without "<class>'...'" around the path.
-	const int32 Quote = Path.Find(TEXT("'"));
-	if (Quote != INDEX_NONE)
+	const int32 Quote = Whole->Find(TEXT("'"));
+	const FString Path = Quote == INDEX_NONE ? *Whole : Whole->Mid(Quote + 1, Whole->Len() - Quote - 2);
+	return Path.IsEmpty() || Path == TEXT("None") ? nullptr : StaticLoadObject(Class, *Path);
+}
+
+FString HostText::WriteStruct(const UScriptStruct& Struct, const void* Value)
+{
+	FString Text;
+	for (const auto& Member : Struct.GetOwnProperties())
 	{
-		Path = Path.Mid(Quote + 1, Path.Len() - Quote - 2);
+		Text += (Text.IsEmpty() ? TEXT("(") : TEXT(",")) + Member->GetName() + TEXT("=");
+		Text += Member->ToLines(Value).Last();
 	}
-	*static_cast<UObject**>(Value) =
-		Path.IsEmpty() || Path == TEXT("None") ? nullptr : StaticLoadObject(GetPropertyClass(), *Path);
-	return true;
+	return Text + TEXT(")");
 }
 
-FString FStructProperty::GetCPPType() const
+void HostText::ReadStruct(const FString& Text, const UScriptStruct& Struct, void* OutValue)
 {
-	return TEXT("F") + Struct->GetName();
-}
-
-void FStructProperty::AppendText(FString& Out, const void* Value) const
-{
-	const TCHAR* Separator = TEXT("(");
-	for (const auto& Member : Struct->GetOwnProperties())
+	std::wstring_view Rest(*Text);
+	if (!Rest.starts_with(L'('))
 	{
-		Out += Separator;
-		Out += Member->GetName() + TEXT("=");
-		Member->AppendText(Out, static_cast<const char*>(Value) + Member->GetOffset());
-		Separator = TEXT(",");
+		return;
 	}
-	Out += TEXT(")");
-}
-
-bool FStructProperty::ReadText(const TCHAR*& Cursor, void* Value) const
-{
-	SkipBlanks(Cursor);
-	if (*Cursor != L'(')
+	Rest.remove_prefix(1);
+	Rest.remove_suffix(Rest.ends_with(L')') ? 1 : 0);
+	while (!Rest.empty())
 	{
-		return false;
+		const FName Name(Take(Rest, L'='));
+		const FString MemberText = Take(Rest, L',');
+		if (const FProperty* Member = Struct.FindPropertyByName(Name))
+		{
+			Member->ReadLines({MemberText}, OutValue);
+		}
 	}
-	do
-	{
-		++Cursor;
-		SkipBlanks(Cursor);
-	} while (*Cursor && *Cursor != L')' && ReadMember(Cursor, Value) && *Cursor == L',');
-	Cursor += *Cursor == L')';
-	return true;
-}
-
-bool FStructProperty::ReadMember(const TCHAR*& Cursor, void* Value) const
-{
-	const TCHAR* const Equals = std::wcschr(Cursor, L'=');
-	if (!Equals)
-	{
-		return false;
-	}
-	const FName MemberName(FStringView(Cursor, static_cast<int32>(Equals - Cursor)));
-	Cursor = Equals + 1;
-	SkipBlanks(Cursor);
-	if (const FProperty* Member = Struct->FindPropertyByName(MemberName))
-	{
-		const TCHAR* Read = Cursor;
-		Member->ReadText(Read, Member->ContainerPtrToValuePtr(Value));
-	}
-	SkipValue(Cursor);
-	return true;
-}
-
-FString FArrayProperty::GetCPPType() const
-{
-	return TEXT("TArray<") + Inner->GetCPPType() + TEXT(">");
-}
-
-void FArrayProperty::AppendText(FString&, const void*) const
-{
-	checkf(false, TEXT("Arrays have no text of their own."));
-}
-
-bool FArrayProperty::ReadText(const TCHAR*&, void*) const
-{
-	return false;
 }

@@ -3,12 +3,6 @@
 
 namespace
 {
-FObjectInitializer*& Innermost()
-{
-	static FObjectInitializer* Current = nullptr;
-	return Current;
-}
-
 FName UniqueName(UObject* Outer, const UClass& Class)
 {
 	for (int32 Number = 0;; ++Number)
@@ -22,44 +16,24 @@ FName UniqueName(UObject* Outer, const UClass& Class)
 }
 } // namespace
 
+FObjectInitializer* FObjectInitializer::Innermost = nullptr;
+
 FObjectInitializer::FObjectInitializer(
 	UObject* InObject, UClass* InClass, UObject* InOuter, FName InName, EObjectFlags InFlags)
-	: Object(InObject), Class(InClass), Outer(InOuter), Name(InName), Flags(InFlags), Enclosing(Innermost())
+	: Object(InObject), Class(InClass), Outer(InOuter), Name(InName), Flags(InFlags), Enclosing(Innermost)
 {
-	Innermost() = this;
+	Innermost = this;
 }
 
 FObjectInitializer::~FObjectInitializer()
 {
-	Innermost() = Enclosing;
+	Innermost = Enclosing;
 }
 
 const FObjectInitializer& FObjectInitializer::Get()
 {
-	checkf(Innermost(), TEXT("Objects of this class are made by NewObject only."));
-	return *Innermost();
-}
-
-const FObjectInitializer& GetObjectInitializer()
-{
-	return FObjectInitializer::Get();
-}
-
-void* GetObjectStorage(const FObjectInitializer& Initializer)
-{
-	return Initializer.GetObj();
-}
-
-void FObjectInitializer::Settle(UObject& Constructed)
-{
-	const FObjectInitializer* Current = Innermost();
-	if (Current && Current->Object == &Constructed)
-	{
-		Constructed.ClassPrivate = Current->Class;
-		Constructed.OuterPrivate = Current->Outer;
-		Constructed.NamePrivate = Current->Name;
-		Constructed.ObjectFlags = Current->Flags;
-	}
+	checkf(Innermost, TEXT("Objects of this class are made by NewObject only."));
+	return *Innermost;
 }
 
 UObject* StaticConstructObject(UClass* Class, UObject* Outer, FName Name, EObjectFlags Flags)
@@ -71,17 +45,6 @@ UObject* StaticConstructObject(UClass* Class, UObject* Outer, FName Name, EObjec
 	const FObjectInitializer Initializer(Object, Class, Outer, Used, Flags);
 	Class->ClassConstructor(Initializer);
 	return Object;
-}
-
-void CheckIsClassChildOf_Internal(const UClass* Parent, const UClass* Child)
-{
-	checkf(Child && Child->IsChildOf(Parent), TEXT("NewObject called with %s, which is no child of %s"),
-		Child ? *Child->GetPathName() : TEXT("no class"), *Parent->GetPathName());
-}
-
-UPackage* GetTransientPackage()
-{
-	return CreatePackage(TEXT("/Engine/Transient"));
 }
 
 UPackage* CreatePackage(const TCHAR* PackageName)

@@ -12,13 +12,8 @@ struct FAssetData
 	/** Of an object that is in memory; null gives the same as the default constructor. */
 	COREUOBJECT_API FAssetData(const UObject* InAsset);
 
-	FAssetData(FName InPackageName, FName InPackagePath, FName InAssetName, FTopLevelAssetPath InAssetClassPath)
-		: PackageName(InPackageName)
-		, PackagePath(InPackagePath)
-		, AssetName(InAssetName)
-		, AssetClassPath(InAssetClassPath)
-	{
-	}
+	/** Of the one asset in the package, which has the package's name. */
+	COREUOBJECT_API FAssetData(const FString& Package, const FString& ClassPath);
 
 	bool IsValid() const { return !PackageName.IsNone() && !AssetName.IsNone(); }
 
@@ -29,9 +24,6 @@ struct FAssetData
 
 	/** Null for a class that does not exist. */
 	COREUOBJECT_API UClass* GetClass() const;
-
-	/** The object, loaded if it is not in memory yet; null when there is none. */
-	COREUOBJECT_API UObject* GetAsset() const;
 
 	/** Such as "/Game/Looks/Warm.Warm". */
 	FString GetObjectPathString() const { return PackageName.ToString() + TEXT(".") + AssetName.ToString(); }

@@ -9,15 +9,24 @@
 
 class FProperty;
 
-/** A reflected type: its properties, its base and its metadata. */
-class COREUOBJECT_API UStruct : public UObject
+/** What is written beside a declaration: its comment, and what the header tool was told of it. */
+class COREUOBJECT_API FMetaDataOwner
+{
+public:
+	/** Empty when there is none of that key. */
+	const FString& GetMetaData(const FName& Key) const;
+
+	TMap<FName, FString> MetaData;
+};
+
+/** A reflected type: its properties and its base. */
+class COREUOBJECT_API UStruct
+	: public UObject
+	, public FMetaDataOwner
 {
 public:
 	UStruct();
 	~UStruct() override;
-
-	/** Null for a type without reflected base. */
-	UStruct* GetSuperStruct() const { return SuperStruct; }
 
 	/** In bytes. */
 	int32 GetPropertiesSize() const { return PropertiesSize; }
@@ -30,10 +39,7 @@ public:
 	/** Looks in the base too; null when there is none. */
 	FProperty* FindPropertyByName(FName Name) const;
 
-	/** Empty when there is none of that key. */
-	const FString& GetMetaData(const FName& Key) const;
-
-	TMap<FName, FString> MetaData;
+	/** Null for a type without reflected base. */
 	UStruct* SuperStruct = nullptr;
 	int32 PropertiesSize = 0;
 	std::vector<std::unique_ptr<FProperty>> Properties;
@@ -44,15 +50,6 @@ class COREUOBJECT_API UScriptStruct : public UStruct
 {
 public:
 	static UClass* StaticClass();
-
-	/** How values of the type come to life, are copied and die. */
-	struct FOperations
-	{
-		void (*Construct)(void* Value);
-		void (*Destroy)(void* Value);
-	};
-
-	FOperations Operations{};
 };
 
 /** A reflected class. */

@@ -7,29 +7,42 @@
 #include "UObject/UnrealType.h"
 
 #include <initializer_list>
-#include <new>
 
 namespace HostReflection
 {
 using FMetaData = std::initializer_list<std::pair<const TCHAR*, const TCHAR*>>;
 
-COREUOBJECT_API UClass* NewClass(const TCHAR* Package, const TCHAR* Name, size_t Size, uint32 Flags,
-	const TCHAR* ConfigName, UClass::FConstructor Constructor, UClass* Super);
-
-COREUOBJECT_API UScriptStruct* NewStruct(const TCHAR* Package, const TCHAR* Name, size_t Size,
-	const UScriptStruct::FOperations& Operations, UScriptStruct* Super);
-
+/** Calls the constructor that takes the initializer, or else the default one. */
 template <class T>
-UScriptStruct* NewStruct(const TCHAR* Package, const TCHAR* Name, UScriptStruct* Super)
+void Construct(const FObjectInitializer& Initializer)
 {
-	return NewStruct(Package, Name, sizeof(T),
-		{[](void* Value) { new (Value) T(); }, [](void* Value) { static_cast<T*>(Value)->~T(); }}, Super);
+	void* const Storage = Initializer.GetObj();
+	if constexpr (std::is_constructible_v<T, const FObjectInitializer&>)
+	{
+		new (Storage) T(Initializer);
+	}
+	else
+	{
+		new (Storage) T();
+	}
 }
 
-COREUOBJECT_API void AddMetaData(UStruct* Type, FMetaData MetaData);
+/** @param ConfigName empty for a class without config. @param Constructor null for an abstract class */
+COREUOBJECT_API UClass* NewClass(const TCHAR* Package, const TCHAR* Name, size_t Size, const TCHAR* ConfigName,
+	UClass::FConstructor Constructor, UClass* Super);
+
+COREUOBJECT_API UScriptStruct* NewStruct(const TCHAR* Package, const TCHAR* Name, size_t Size, UScriptStruct* Super);
+
+COREUOBJECT_API void AddMetaData(FMetaDataOwner* Owner, FMetaData MetaData);
 
 /** Takes the property over. */
 COREUOBJECT_API void AddProperty(UStruct* Type, FProperty* Property, FMetaData MetaData);
+
+template <class T>
+void AddProperty(UStruct* Type, const FPropertyDeclaration& Declaration, FMetaData MetaData)
+{
+	AddProperty(Type, new FProperty(Declaration, std::type_identity<T>()), MetaData);
+}
 } // namespace HostReflection
 
 /** Announces the types of a library while it is loaded; they are made when the object system is ready for them. */

@@ -5,8 +5,38 @@
 #include "UObject/ObjectMacros.h"
 #include "UObject/UObjectBase.h"
 
+#include <memory>
+
 class FConfigCacheIni;
 extern CORE_API FConfigCacheIni* GConfig;
+
+/** What a constructor gets: the object under construction, with its place already settled. */
+class COREUOBJECT_API FObjectInitializer
+{
+public:
+	FObjectInitializer(UObject* InObject, UClass* InClass, UObject* InOuter, FName InName, EObjectFlags InFlags);
+	~FObjectInitializer();
+	FObjectInitializer(const FObjectInitializer&) = delete;
+	FObjectInitializer& operator=(const FObjectInitializer&) = delete;
+
+	/** The innermost one under way; fatal when there is none. */
+	static const FObjectInitializer& Get();
+
+	/** Raw storage until the constructor ran. */
+	UObject* GetObj() const { return Object; }
+
+private:
+	friend class UObject;
+
+	static FObjectInitializer* Innermost;
+
+	UObject* Object;
+	UClass* Class;
+	UObject* Outer;
+	FName Name;
+	EObjectFlags Flags;
+	FObjectInitializer* Enclosing;
+};
 
 class COREUOBJECT_API UObject
 {
@@ -47,8 +77,6 @@ public:
 
 	bool IsGarbage() const { return bIsGarbage; }
 
-	int32 GetUniqueID() const { return InternalIndex; }
-
 	/**
 	 * Writes the properties that have one of the flags into the class's config file (or the one named), at once; the rest
 	 * of the file stays. Nothing for a class without config. Of the default object nothing has to be copied to it.
@@ -57,14 +85,16 @@ public:
 		FConfigCacheIni* Config = GConfig, bool bAllowCopyToDefaultObject = true);
 
 private:
-	friend class FObjectInitializer;
+	friend class FWeakObjectPtr;
 
 	UClass* ClassPrivate = nullptr;
 	UObject* OuterPrivate = nullptr;
 	FName NamePrivate;
 	EObjectFlags ObjectFlags = RF_NoFlags;
-	int32 InternalIndex;
 	bool bIsGarbage = false;
+
+	/** Owns nothing; what weak pointers watch. */
+	const std::shared_ptr<UObject> Watched{this, [](UObject*) {}};
 };
 
 /** Destroys all objects that are marked as garbage. */

@@ -28,21 +28,16 @@ constexpr EObjectFlags operator|(EObjectFlags A, EObjectFlags B)
 enum EClassFlags : uint32
 {
 	CLASS_None = 0x0,
-	CLASS_Abstract = 0x1,
 	CLASS_DefaultConfig = 0x2,
 	CLASS_Config = 0x4,
 	CLASS_Native = 0x80,
-	CLASS_MinimalAPI = 0x80000,
-	CLASS_RequiredAPI = 0x100000,
 };
 
 /** The values are the host's own, but for CPF_Config. */
 enum EPropertyFlags : uint64
 {
 	CPF_Edit = 0x1,
-	CPF_Transient = 0x2000,
 	CPF_Config = 0x4000,
-	CPF_Protected = 0x80000,
 	CPF_NativeAccessSpecifierPublic = 0x100000,
 	CPF_NativeAccessSpecifierProtected = 0x200000,
 	CPF_NativeAccessSpecifierPrivate = 0x400000,
@@ -54,20 +49,16 @@ UClass* StaticClass();
 template <class T>
 UScriptStruct* StaticStruct();
 
-/** The innermost construction under way, and the storage of its object; declared here for the generated bodies. */
-COREUOBJECT_API const FObjectInitializer& GetObjectInitializer();
-COREUOBJECT_API void* GetObjectStorage(const FObjectInitializer& Initializer);
-
-// The tokens behind the macros are defined by the generated header, one for each line that needs it.
+// The token behind a generated body is defined by the generated header, one for each line that needs it.
 #define HOST_JOIN_INNER(File, Line, What) File##_##Line##What
 #define HOST_JOIN(File, Line, What) HOST_JOIN_INNER(File, Line, What)
 
-#define UCLASS(...) HOST_JOIN(CURRENT_FILE_ID, __LINE__, _PROLOG)
+#define UCLASS(...)
 #define USTRUCT(...)
 #define UPROPERTY(...)
 #define GENERATED_BODY() HOST_JOIN(CURRENT_FILE_ID, __LINE__, _GENERATED_BODY)
 
-// What the generated header puts behind those tokens.
+// What the generated header is made of.
 
 /** The entry points of a class, which other modules may import. */
 #define HOST_DECLARE_CLASS(Name, Api)                                                                                  \
@@ -87,29 +78,18 @@ COREUOBJECT_API void* GetObjectStorage(const FObjectInitializer& Initializer);
 	friend struct Z_Construct_UScriptStruct_##Name##_Statics;                                                          \
 	Api static UScriptStruct* StaticStruct();
 
-#define HOST_CLASS_BODY(Name, SuperName, Package, Api)                                                                 \
+#define HOST_CLASS_BODY(Name, SuperName, Api)                                                                          \
 private:                                                                                                               \
 	friend struct Z_Construct_UClass_##Name##_Statics;                                                                 \
 	Api static UClass* GetPrivateStaticClass();                                                                        \
-	Name(Name&&) = delete;                                                                                             \
-	Name(const Name&) = delete;                                                                                        \
                                                                                                                        \
 public:                                                                                                                \
-	using ThisClass = Name;                                                                                            \
 	using Super = SuperName;                                                                                           \
 	static UClass* StaticClass()                                                                                       \
 	{                                                                                                                  \
 		return GetPrivateStaticClass();                                                                                \
-	}                                                                                                                  \
-	static const TCHAR* StaticPackage()                                                                                \
-	{                                                                                                                  \
-		return Package;                                                                                                \
 	}
 
-#define HOST_CONSTRUCTOR(Name) Name(const FObjectInitializer& ObjectInitializer = GetObjectInitializer());
-
-#define HOST_MAKE(Name, ...)                                                                                           \
-	static void __DefaultConstructor(const FObjectInitializer& Initializer)                                            \
-	{                                                                                                                  \
-		new (GetObjectStorage(Initializer)) Name(__VA_ARGS__);                                                         \
-	}
+/** For a class that declares no constructor itself. */
+#define HOST_CONSTRUCTOR(Name)                                                                                         \
+	Name(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get()) : Super(ObjectInitializer) {}

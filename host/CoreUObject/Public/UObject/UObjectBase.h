@@ -1,5 +1,5 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// The object array: every object has an index in it for life; weak pointers check index and serial number.
+// All objects that live.
 #pragma once
 
 #include "CoreMinimal.h"
@@ -12,20 +12,16 @@ COREUOBJECT_API bool UObjectInitialized();
 namespace HostObjects
 {
 /** From now on objects can be made; those of the types whose libraries are loaded already are. */
-COREUOBJECT_API void Init();
+COREUOBJECT_API void Init() noexcept;
 
-/** Destroys all objects that are left; afterwards no object may be made. */
+/** Destroys all objects that are left, the newest first; afterwards no object may be made. */
 COREUOBJECT_API void Shutdown();
 
-/** Enters an object and gives its index. */
-int32 Add(UObject* Object);
-void Remove(int32 Index);
+/** How many there are, garbage included. */
+COREUOBJECT_API size_t Num();
 
-/** The serial number of the index: a fresh one for each object that uses it. */
-int32 SerialNumber(int32 Index);
-
-/** The object, or null when it is dead, garbage, or another one lives at the index. */
-UObject* Find(int32 Index, int32 SerialNumber);
+void Add(UObject* Object);
+void Remove(UObject* Object);
 
 /** The object of that name directly in the outer one, or null. */
 UObject* FindByName(const UObject* Outer, FName Name);

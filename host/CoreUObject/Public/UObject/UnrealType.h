@@ -3,162 +3,132 @@
 #pragma once
 
 #include "UObject/Class.h"
+#include "UObject/ObjectPtr.h"
 
-class COREUOBJECT_API FProperty
+/** Values as text. A text that is none for the type leaves the value alone. */
+namespace HostText
 {
-public:
-	FProperty(const TCHAR* InName, size_t InOffset, uint64 InFlags)
-		: Name(InName), Offset(InOffset), PropertyFlags(InFlags)
+COREUOBJECT_API FString Write(bool Value);
+COREUOBJECT_API FString Write(float Value);
+COREUOBJECT_API FString Write(const FName& Value);
+COREUOBJECT_API FString WriteObject(const UObject* Value);
+COREUOBJECT_API FString WriteStruct(const UScriptStruct& Struct, const void* Value);
+
+COREUOBJECT_API void Read(const FString& Text, bool& OutValue);
+COREUOBJECT_API void Read(const FString& Text, float& OutValue);
+COREUOBJECT_API void Read(const FString& Text, FName& OutValue);
+COREUOBJECT_API UObject* ReadObject(const FString& Text, UClass* Class, UObject* Before);
+COREUOBJECT_API void ReadStruct(const FString& Text, const UScriptStruct& Struct, void* OutValue);
+
+template <class T>
+FString Write(const TObjectPtr<T>& Value)
+{
+	return WriteObject(Value);
+}
+
+template <class T>
+void Read(const FString& Text, TObjectPtr<T>& OutValue)
+{
+	OutValue = static_cast<T*>(ReadObject(Text, T::StaticClass(), OutValue));
+}
+
+template <class T>
+FString Write(const T& Value)
+{
+	return WriteStruct(*T::StaticStruct(), &Value);
+}
+
+template <class T>
+void Read(const FString& Text, T& OutValue)
+{
+	ReadStruct(Text, *T::StaticStruct(), &OutValue);
+}
+
+/** The lines of a config file: one an element for arrays. */
+template <class T>
+TArray<FString> WriteLines(const T& Value)
+{
+	return {Write(Value)};
+}
+
+template <class T>
+TArray<FString> WriteLines(const TArray<T>& Values)
+{
+	TArray<FString> Lines;
+	for (const T& Value : Values)
 	{
+		Lines.Add(Write(Value));
 	}
+	return Lines;
+}
 
-	virtual ~FProperty() = default;
-	FProperty(const FProperty&) = delete;
-	FProperty& operator=(const FProperty&) = delete;
+template <class T>
+void ReadLines(const TArray<FString>& Lines, T& OutValue)
+{
+	Read(Lines.Last(), OutValue);
+}
 
-	FName GetFName() const { return Name; }
+/** An element that cannot be read is a default one. */
+template <class T>
+void ReadLines(const TArray<FString>& Lines, TArray<T>& OutValues)
+{
+	OutValues.Empty();
+	for (const FString& Line : Lines)
+	{
+		Read(Line, OutValues.Emplace_GetRef());
+	}
+}
+} // namespace HostText
 
-	FString GetName() const { return Name.ToString(); }
+/** What is said about a property where it is declared. */
+struct FPropertyDeclaration
+{
+	const TCHAR* Name;
+
+	/** In C++, such as "float" or "TArray<FName>". */
+	const TCHAR* Type;
 
 	/** In bytes from the begin of the owner. */
-	size_t GetOffset() const { return Offset; }
-
-	bool HasAnyPropertyFlags(uint64 FlagsToCheck) const { return (PropertyFlags & FlagsToCheck) != 0; }
-
-	const FString& GetMetaData(const FName& Key) const;
-
-	void* ContainerPtrToValuePtr(void* Container) const { return static_cast<char*>(Container) + Offset; }
-
-	/** The name of the type in C++, such as "float" or "TArray<FName>". */
-	virtual FString GetCPPType() const = 0;
-
-	/** In bytes. */
-	virtual size_t ElementSize() const = 0;
-
-	virtual void AppendText(FString& Out, const void* Value) const = 0;
-
-	/** Reads a value and moves the cursor behind it. @return false when the text is none; the value is then as before */
-	virtual bool ReadText(const TCHAR*& Cursor, void* Value) const = 0;
-
-	TMap<FName, FString> MetaData;
-
-private:
-	FName Name;
 	size_t Offset;
-	uint64 PropertyFlags;
+
+	/** EPropertyFlags. */
+	uint64 Flags;
 };
 
-/** A property of one C++ type without parts. */
-template <class T>
-class TPlainProperty : public FProperty
+class FProperty : public FMetaDataOwner
 {
 public:
-	using FProperty::FProperty;
-
-	size_t ElementSize() const override { return sizeof(T); }
-
-	COREUOBJECT_API FString GetCPPType() const override;
-	COREUOBJECT_API void AppendText(FString& Out, const void* Value) const override;
-	COREUOBJECT_API bool ReadText(const TCHAR*& Cursor, void* Value) const override;
-};
-
-using FBoolProperty = TPlainProperty<bool>;
-using FFloatProperty = TPlainProperty<float>;
-using FNameProperty = TPlainProperty<FName>;
-
-class COREUOBJECT_API FObjectProperty : public FProperty
-{
-public:
-	FObjectProperty(const TCHAR* InName, size_t InOffset, uint64 InFlags, UClass* (*InClass)())
-		: FProperty(InName, InOffset, InFlags), Class(InClass)
+	/** @param T the type in C++ */
+	template <class T>
+	FProperty(const FPropertyDeclaration& InDeclaration, std::type_identity<T>)
+		: Declaration(InDeclaration)
+		, Writer([](const void* Value) { return HostText::WriteLines(*static_cast<const T*>(Value)); })
+		, Reader([](const TArray<FString>& Lines, void* Value) { HostText::ReadLines(Lines, *static_cast<T*>(Value)); })
 	{
 	}
 
-	UClass* GetPropertyClass() const { return Class(); }
+	FName GetFName() const { return Declaration.Name; }
 
-	size_t ElementSize() const override { return sizeof(UObject*); }
+	FString GetName() const { return Declaration.Name; }
 
-	FString GetCPPType() const override;
-	void AppendText(FString& Out, const void* Value) const override;
-	bool ReadText(const TCHAR*& Cursor, void* Value) const override;
+	FString GetCPPType() const { return Declaration.Type; }
 
-private:
-	/** Asked when needed: a class may hold pointers to itself. */
-	UClass* (*Class)();
-};
+	bool HasAnyPropertyFlags(uint64 FlagsToCheck) const { return (Declaration.Flags & FlagsToCheck) != 0; }
 
-class COREUOBJECT_API FStructProperty : public FProperty
-{
-public:
-	FStructProperty(const TCHAR* InName, size_t InOffset, uint64 InFlags, UScriptStruct* InStruct)
-		: FProperty(InName, InOffset, InFlags), Struct(InStruct)
+	/** The value as lines of a config file: one, or one an element for arrays. */
+	TArray<FString> ToLines(const void* Container) const
 	{
+		return Writer(static_cast<const char*>(Container) + Declaration.Offset);
 	}
 
-	UScriptStruct* GetStruct() const { return Struct; }
-
-	size_t ElementSize() const override { return static_cast<size_t>(Struct->GetPropertiesSize()); }
-
-	FString GetCPPType() const override;
-	void AppendText(FString& Out, const void* Value) const override;
-	bool ReadText(const TCHAR*& Cursor, void* Value) const override;
-
-private:
-	bool ReadMember(const TCHAR*& Cursor, void* Value) const;
-
-	UScriptStruct* Struct;
-};
-
-/** How the values of one array type are reached. */
-struct FArrayOperations
-{
-	int32 (*Num)(const void* Array);
-	const void* (*Get)(const void* Array, int32 Index);
-	void (*Empty)(void* Array);
-
-	/** Appends a default element and gives its address. */
-	void* (*AddDefaulted)(void* Array);
-};
-
-class COREUOBJECT_API FArrayProperty : public FProperty
-{
-public:
-	/** Owns the inner property. */
-	FArrayProperty(
-		const TCHAR* InName, size_t InOffset, uint64 InFlags, const FArrayOperations& InOperations, FProperty* InInner)
-		: FProperty(InName, InOffset, InFlags), Operations(InOperations), Inner(InInner)
+	/** @param Lines not empty */
+	void ReadLines(const TArray<FString>& Lines, void* Container) const
 	{
+		Reader(Lines, static_cast<char*>(Container) + Declaration.Offset);
 	}
 
-	const FProperty* GetInner() const { return Inner.get(); }
-
-	const FArrayOperations& GetOperations() const { return Operations; }
-
-	size_t ElementSize() const override { return sizeof(TArray<int32>); }
-
-	FString GetCPPType() const override;
-
-	/** Not as one text: config files keep one line an element. */
-	void AppendText(FString& Out, const void* Value) const override;
-	bool ReadText(const TCHAR*& Cursor, void* Value) const override;
-
 private:
-	FArrayOperations Operations;
-	std::unique_ptr<FProperty> Inner;
+	FPropertyDeclaration Declaration;
+	TArray<FString> (*Writer)(const void* Value);
+	void (*Reader)(const TArray<FString>& Lines, void* Value);
 };
-
-template <class T>
-const FArrayOperations& ArrayOperations()
-{
-	static constexpr FArrayOperations Operations{[](const void* Array)
-		{ return static_cast<const TArray<T>*>(Array)->Num(); },
-		[](const void* Array, int32 Index) -> const void* { return &(*static_cast<const TArray<T>*>(Array))[Index]; },
-		[](void* Array) { static_cast<TArray<T>*>(Array)->Empty(); },
-		[](void* Array) -> void*
-		{
-			TArray<T>& Values = *static_cast<TArray<T>*>(Array);
-			Values.Emplace();
-			return &Values.Last();
-		}};
-	return Operations;
-}

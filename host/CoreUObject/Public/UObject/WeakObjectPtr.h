@@ -9,18 +9,15 @@ class FWeakObjectPtr
 public:
 	FWeakObjectPtr() = default;
 
-	FWeakObjectPtr(const UObject* Object) { *this = Object; }
-
-	COREUOBJECT_API FWeakObjectPtr& operator=(const UObject* Object);
+	FWeakObjectPtr(const UObject* InObject) : Object(InObject ? InObject->Watched : nullptr) {}
 
 	/** Null when the object is dead or garbage. */
-	COREUOBJECT_API UObject* Get() const;
-
-	bool IsValid() const { return Get() != nullptr; }
-
-	void Reset() { *this = FWeakObjectPtr(); }
+	UObject* Get() const
+	{
+		UObject* const Found = Object.lock().get();
+		return Found && !Found->IsGarbage() ? Found : nullptr;
+	}
 
 private:
-	int32 ObjectIndex = -1;
-	int32 ObjectSerialNumber = 0;
+	std::weak_ptr<UObject> Object;
 };

@@ -1,5 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// Finds plug-ins by their descriptors and loads their modules, phase by phase.
+// Finds plug-ins by their descriptors and loads their modules, phase by phase. What is wrong with a plug-in is thrown as
+// std::runtime_error with one line, UTF-8: file, place, reason.
 #pragma once
 
 #include "CoreMinimal.h"
@@ -9,17 +10,12 @@ namespace HostPlugins
 /**
  * Reads the descriptor and the module list of every plug-in directly below the folder, and tells the module manager
  * where the libraries lie.
- * @param OutError on failure one line: file, place, reason
  */
-PROJECTS_API bool Discover(const FString& PluginsFolder, FString& OutError);
-
-/** The loading phases in their order; every one of them comes before the engine loop is complete. */
-PROJECTS_API const TArray<FString>& LoadingPhases();
+PROJECTS_API void Discover(const FString& PluginsFolder);
 
 /**
  * Loads the modules that the descriptors put into the phase, in the order of the descriptor.
  * @param bIsCommandlet leaves out modules that do not load in commandlets
- * @param OutError on failure one line: file, place, reason
  */
-PROJECTS_API bool LoadModules(const FString& Phase, bool bIsCommandlet, FString& OutError);
+PROJECTS_API void LoadModules(const FString& Phase, bool bIsCommandlet);
 } // namespace HostPlugins

@@ -7,20 +7,22 @@
 class IPlugin
 {
 public:
-	virtual ~IPlugin() = default;
+	explicit IPlugin(const FString& InBaseDir) : BaseDir(InBaseDir) {}
 
 	/** The folder of the descriptor; may be relative, no trailing slash. */
-	virtual FString GetBaseDir() const = 0;
+	FString GetBaseDir() const { return BaseDir; }
+
+private:
+	FString BaseDir;
 };
 
-class IPluginManager
+class PROJECTS_API IPluginManager
 {
 public:
 	virtual ~IPluginManager() = default;
 
-	PROJECTS_API static IPluginManager& Get();
+	static IPluginManager& Get();
 
 	/** Null for an unknown name. */
-	virtual TSharedPtr<IPlugin> FindPlugin(const FStringView Name) = 0;
-	virtual TSharedPtr<IPlugin> FindPlugin(const ANSICHAR* Name) = 0;
+	virtual TSharedPtr<IPlugin> FindPlugin(const ANSICHAR* Name);
 };

@@ -22,14 +22,27 @@ const TCHAR* YesNo(bool bValue)
 	return bValue ? TEXT("yes") : TEXT("no");
 }
 
+template <size_t Size, typename... ArgTypes>
+void Say(const TCHAR (&Format)[Size], ArgTypes... Args)
+{
+	UE_LOG(LogProbe, Display, TEXT("%s"), *FString::Printf(Format, Args...));
+}
+
+/** What there is of the editor. */
+void SayState(const TCHAR* Event)
+{
+	Say(TEXT("%s: editor %s, objects %s, AssetTools %s"), Event, YesNo(GEditor != nullptr), YesNo(UObjectInitialized()),
+		YesNo(FModuleManager::Get().IsModuleLoaded("AssetTools")));
+}
+
 class FProbeModule final : public IProbeModule
 {
 public:
 	void StartupModule() override
 	{
-		UE_LOG(LogProbe, Display, TEXT("start-up: editor %s, objects %s, self loaded %s, setting entries %d"),
-			YesNo(GEditor != nullptr), YesNo(UObjectInitialized()),
-			YesNo(FModuleManager::Get().IsModuleLoaded("Probe")), GetDefault<UProbeSettings>()->Entries.Num());
+		SayState(TEXT("start-up"));
+		Say(TEXT("self loaded %s, setting entries %d"), YesNo(FModuleManager::Get().IsModuleLoaded("Probe")),
+			GetDefault<UProbeSettings>()->Entries.Num());
 		FModuleManager::Get().LoadModuleChecked("AssetTools");
 		RegisterProbeMenu(*this);
 		FWorldDelegates::OnPreWorldInitialization.AddRaw(this, &FProbeModule::OnWorld);
@@ -46,13 +59,12 @@ public:
 		UGameViewportClient::OnViewportCreated().AddRaw(this, &FProbeModule::OnGameViewport);
 	}
 
-	void PreUnloadCallback() override { UE_LOG(LogProbe, Display, TEXT("pre-unload")); }
+	void PreUnloadCallback() override { Say(TEXT("pre-unload")); }
 
 	void ShutdownModule() override
 	{
 		UToolMenus::UnregisterOwner(this);
-		UE_LOG(LogProbe, Display, TEXT("shut-down: editor %s, objects %s, AssetTools %s"), YesNo(GEditor != nullptr),
-			YesNo(UObjectInitialized()), YesNo(FModuleManager::Get().IsModuleLoaded("AssetTools")));
+		SayState(TEXT("shut-down"));
 	}
 
 	UProbeSettings& Settings() override { return *GetMutableDefault<UProbeSettings>(); }
@@ -62,16 +74,14 @@ public:
 private:
 	void BindPlay(FEditorDelegates::FOnPIEEvent& Event, const TCHAR* Name)
 	{
-		Event.AddLambda(
-			[Name](const bool) {
-				UE_LOG(
-					LogProbe, Display, TEXT("%s: play viewport %s"), Name, YesNo(GEditor->GetPIEViewport() != nullptr));
-			});
+		const auto Report = [Name](const bool)
+		{ Say(TEXT("%s: play viewport %s"), Name, YesNo(GEditor->GetPIEViewport() != nullptr)); };
+		Event.Add(FEditorDelegates::FOnPIEEvent::FDelegate::CreateLambda(Report));
 	}
 
 	void OnWorld(UWorld* World, const UWorld::InitializationValues)
 	{
-		UE_LOG(LogProbe, Display, TEXT("world of type %d"), static_cast<int32>(World->WorldType));
+		Say(TEXT("world of type %d"), static_cast<int32>(World->WorldType));
 		if (bThrow)
 		{
 			throw std::runtime_error("the probe throws");
@@ -80,21 +90,21 @@ private:
 
 	void OnEngineLoop()
 	{
-		UE_LOG(LogProbe, Display, TEXT("engine loop complete: editor %s, panes %d"), YesNo(GEditor != nullptr),
+		Say(TEXT("engine loop complete: editor %s, panes %d"), YesNo(GEditor != nullptr),
 			GEditor->GetLevelViewportClients().Num());
 		GEditor->OnViewportClientListChanged().AddRaw(this, &FProbeModule::OnAllClients);
 		GEditor->OnLevelViewportClientListChanged().AddRaw(this, &FProbeModule::OnLevelClients);
 	}
 
-	void OnAllClients() { UE_LOG(LogProbe, Display, TEXT("all clients: %d"), GEditor->GetAllViewportClients().Num()); }
+	void OnAllClients() { Say(TEXT("all clients: %d"), GEditor->GetAllViewportClients().Num()); }
 
 	void OnLevelClients()
 	{
-		UE_LOG(LogProbe, Display, TEXT("level clients: %d"), GEditor->GetLevelViewportClients().Num());
+		Say(TEXT("level clients: %d"), GEditor->GetLevelViewportClients().Num());
 		for (const FLevelEditorViewportClient* Client : GEditor->GetLevelViewportClients())
 		{
 			const TSharedPtr<SEditorViewport> Widget = Client->GetEditorViewportWidget();
-			UE_LOG(LogProbe, Display, TEXT("  %s, viewport %s"),
+			Say(TEXT("  %s, viewport %s"),
 				Widget.IsValid() ? *StaticCastSharedPtr<SLevelViewport>(Widget)->GetConfigKey().ToString() : TEXT("-"),
 				YesNo(Client->Viewport != nullptr));
 		}
@@ -102,18 +112,14 @@ private:
 
 	void OnGameViewport()
 	{
-		UE_LOG(LogProbe, Display, TEXT("game viewport: client matches %s, active viewport plays %s"),
+		Say(TEXT("game viewport: client matches %s, active viewport plays %s"),
 			YesNo(GEditor->GetPIEViewport()->GetClient() == static_cast<FViewportClient*>(GEditor->GameViewport)),
 			YesNo(GEditor->GetActiveViewport() == GEditor->GetPIEViewport()));
 	}
 
-	void OnCancel() { UE_LOG(LogProbe, Display, TEXT("CancelPIE")); }
+	void OnCancel() { Say(TEXT("CancelPIE")); }
 
-	void OnPreExit()
-	{
-		UE_LOG(LogProbe, Display, TEXT("pre-exit: editor %s, objects %s, AssetTools %s"), YesNo(GEditor != nullptr),
-			YesNo(UObjectInitialized()), YesNo(FModuleManager::Get().IsModuleLoaded("AssetTools")));
-	}
+	void OnPreExit() { SayState(TEXT("pre-exit")); }
 
 	bool bThrow = false;
 };
