@@ -11,46 +11,52 @@ namespace
 {
 constexpr int Names = 20;
 
-std::string name(int number)
+std::vector<std::string> names()
 {
-	return "Shot " + std::to_string(number) + " & take (2)";
+	std::vector<std::string> all;
+	for (int number = 0; number < Names; ++number)
+	{
+		all.push_back("Shot " + std::to_string(number) + " & take (2)");
+	}
+	return all;
+}
+
+std::string path()
+{
+	std::string path = "C:";
+	for (const std::string& name : names())
+	{
+		path += '\\' + name;
+	}
+	return path;
 }
 
 void pathAndBack(benchmark::State& state)
 {
-	std::string path = "C:";
-	for (int number = 0; number < Names; ++number)
-	{
-		path += '\\' + name(number);
-	}
+	const std::string whole = path();
 	for (auto _ : state)
 	{
-		benchmark::DoNotOptimize(Kiln::fileUrlToPath(Kiln::pathToFileUrl(path)));
+		benchmark::DoNotOptimize(Kiln::fileUrlToPath(Kiln::pathToFileUrl(whole)));
 	}
 }
 
 void platformCalls(benchmark::State& state)
 {
-	std::vector<std::string> names;
-	std::string url = "C:";
-	for (int number = 0; number < Names; ++number)
-	{
-		names.push_back(name(number));
-		url += '/' + names.back();
-	}
+	const std::vector<std::string> all = names();
+	std::string url = Kiln::pathToFileUrl(path());
 	for (auto _ : state)
 	{
-		for (const std::string& each : names)
+		for (const std::string& name : all)
 		{
 			char escaped[2083];
 			DWORD length = sizeof escaped;
-			UrlEscapeA(each.c_str(), escaped, &length, 0);
+			UrlEscapeA(name.c_str(), escaped, &length, 0);
 			benchmark::DoNotOptimize(escaped);
 		}
-		char path[2083];
-		DWORD length = sizeof path;
-		UrlUnescapeA(url.data(), path, &length, 0);
-		benchmark::DoNotOptimize(path);
+		char plain[2083];
+		DWORD length = sizeof plain;
+		UrlUnescapeA(url.data(), plain, &length, 0);
+		benchmark::DoNotOptimize(plain);
 	}
 }
 

@@ -1,12 +1,11 @@
-# An artist opens a project that holds two looks.
+# An artist opens a project that holds five looks.
 new project
 put file ../Plugins/Tonalith/Translations ProgramData/Vantor/com.vantor.look/translations/unreal
-asset /Script/Tonalith.TonalithObject /Game/Looks/Warm.Warm
-asset /Script/Tonalith.TonalithObject /Game/Looks/Cold.Cold
+put file content Content
 start
 layout FourPanes2x2
 activate pane "FourPanes2x2.Viewport 1.Viewport0"
-save picture "first pane"
+save picture plain
 
 # The pane's own View menu has a place for looks. None is chosen yet.
 open menu View TNLDisplaySubMenu
@@ -25,6 +24,8 @@ click Warm
 open menu TNLDisplaySubMenu
 expect menu "Warm >"
 click EnableDisplay
+expect picture unlike plain
+save picture warm
 open menu View TNLDisplaySubMenu
 expect menu "[x] Show Look"
 
@@ -37,23 +38,43 @@ click Cold
 open menu TNLDisplaySubMenu
 expect menu "Cold >"
 click EnableDisplay
+save picture cold
 
-# The first pane still has its own. The look that a pane shows is not offered to it again.
+# A play session starts with the look of the pane that was active.
 activate pane "FourPanes2x2.Viewport 1.Viewport0"
+play in pane
+expect picture like warm
+end play
+
+# That pane still has its own look. The look that a pane shows is not offered to it again.
 open menu View TNLDisplaySubMenu TNLAssetSelection
 expect menu "Warm >"
 expect menu Clear
 expect menu Cold
 
-# A play session starts with the look of the pane that was active.
-play in pane
-end play
+# The other looks in the same pane.
+click Faded
+save picture faded
+open menu View TNLDisplaySubMenu TNLAssetSelection
+click Contrast
+save picture contrast
+open menu View TNLDisplaySubMenu TNLAssetSelection
+click Monochrome
+save picture monochrome
 
-# A new look is made in the content browser, and opens at once.
+# Switched off, the pane is as it was.
+open menu View TNLDisplaySubMenu
+click EnableDisplay
+expect picture like plain
+open menu View TNLDisplaySubMenu
+click EnableDisplay
+
+# A new look is made in the content browser, and opens at once. It changes nothing yet.
 create asset "Tonalith Look" /Game/Looks/Night
 expect log "read pixels"
 open menu View TNLDisplaySubMenu TNLAssetSelection
 click Night
+expect picture like plain
 close pane "FourPanes2x2.Viewport 1.Viewport0"
 expect log "LogTemp: OnLevelViewportClientListChanged"
 quit
@@ -73,4 +94,12 @@ activate pane "FourPanes2x2.Viewport 1.Viewport1"
 open menu View TNLDisplaySubMenu
 expect menu "[ ] Show Look"
 expect menu "Choose a Look >"
+quit
+
+# Settings may hold half a look.
+put file half-weight.ini Saved/Config/WindowsEditor/EditorPerProjectUserSettings.ini
+start
+layout OnePane
+expect picture unlike monochrome
+save picture "monochrome at half weight"
 quit

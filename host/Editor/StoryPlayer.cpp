@@ -193,6 +193,10 @@ void FStoryPlayer::PutFile(const FArguments& Arguments)
 	const std::filesystem::path Target = *FPaths::Combine(Options.ProjectFolder, Wide(Arguments[1]));
 	std::error_code Failure;
 	std::filesystem::create_directories(Target.parent_path(), Failure);
+	if (std::filesystem::is_regular_file(Target, Failure))
+	{
+		std::filesystem::remove(Target, Failure);
+	}
 	std::filesystem::copy(Source, Target, std::filesystem::copy_options::recursive, Failure);
 	if (Failure)
 	{

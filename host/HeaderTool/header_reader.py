@@ -16,7 +16,7 @@ TOKEN = re.compile(r"""
 CLASS_SPECIFIERS = {"config", "minimalapi"}
 PROPERTY_SPECIFIERS = {"config", "editanywhere", "category", "meta"}
 UNSUPPORTED = {"GENERATED_UCLASS_BODY", "GENERATED_USTRUCT_BODY", "UFUNCTION", "UENUM", "UINTERFACE", "UDELEGATE", "RIGVM_METHOD"}
-PLAIN_TYPES = {"bool", "float", "FName"}
+PLAIN_TYPES = {"bool", "float", "FName", "FVector4"}
 
 
 class HeaderError(Exception):

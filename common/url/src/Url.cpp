@@ -28,11 +28,12 @@ bool startsWithDrive(std::string_view path)
 }
 
 /** Escapes what the platform's call cannot be trusted with: it ends at a NUL and takes other bytes for the code page's. */
-std::string escapeBeyondAscii(std::string_view name)
+std::string escapeBeyondAscii(std::string_view names)
 {
 	constexpr std::string_view digits = "0123456789ABCDEF";
 	std::string escaped;
-	for (const char c : name)
+	escaped.reserve(names.size());
+	for (const char c : names)
 	{
 		const auto byte = static_cast<unsigned char>(c);
 		if (byte == 0 || byte >= 0x80)
@@ -47,41 +48,55 @@ std::string escapeBeyondAscii(std::string_view name)
 	return escaped;
 }
 
-/** Appends a name, piece by piece: the platform's call takes and gives no more than 2083 characters, its closing NUL
- * included, and makes three of one at most. */
+/** Appends a text with every "&" as "%26". */
+void appendWithoutAmpersands(std::string& url, std::string_view text)
+{
+	for (std::size_t found = text.find('&'); found != text.npos; found = text.find('&'))
+	{
+		url.append(text, 0, found) += "%26";
+		text.remove_prefix(found + 1);
+	}
+	url += text;
+}
+
+/**
+ * Appends a name, piece by piece: the platform's call takes and gives no more than 2083 characters, a closing NUL included,
+ * and makes three of one at most.
+ */
 void appendEscaped(std::string& url, std::string_view name)
 {
-	constexpr DWORD room = 2083;
+	constexpr std::size_t room = 2083;
 	constexpr std::size_t longestPiece = (room - 1) / 3;
-	const std::string prepared = escapeBeyondAscii(name);
-	for (std::size_t begin = 0; begin < prepared.size(); begin += longestPiece)
+	while (!name.empty())
 	{
-		const std::string piece = prepared.substr(begin, longestPiece);
+		char piece[longestPiece + 1];
+		const std::size_t size = name.copy(piece, longestPiece);
+		piece[size] = '\0';
+		name.remove_prefix(size);
+
 		char escaped[room];
 		DWORD length = room;
-		if (FAILED(UrlEscapeA(piece.c_str(), escaped, &length, 0)))
+		const bool isEscaped = SUCCEEDED(UrlEscapeA(piece, escaped, &length, 0));
+		appendWithoutAmpersands(url, isEscaped ? std::string_view(escaped, length) : std::string_view(piece, size));
+	}
+}
+
+bool holdsNul(std::string_view text)
+{
+	for (std::size_t at = 0; at < text.size(); ++at)
+	{
+		if (text[at] == '\0' || (text[at] == '%' && text.substr(at + 1, 2) == "00"))
 		{
-			url += piece;
-			continue;
-		}
-		for (const char c : std::string_view(escaped, length))
-		{
-			if (c == '&')
-			{
-				url += "%26";
-			}
-			else
-			{
-				url += c;
-			}
+			return true;
 		}
 	}
+	return false;
 }
 
 /** Empty for a text with a NUL, escaped or not: what the platform's call makes of it is not told. */
 std::string unescape(std::string text)
 {
-	if (text.empty() || text.find('\0') != text.npos || text.find("%00") != text.npos)
+	if (text.empty() || holdsNul(text))
 	{
 		return {};
 	}
@@ -102,20 +117,21 @@ std::string pathToFileUrl(const std::string& path)
 	{
 		throw UrlException();
 	}
-	std::string separated = path;
-	std::ranges::replace(separated, '/', '\\');
 	const std::size_t drive = path.find(':') + 1;
-	const bool isNetworks = drive == 0 && separated.starts_with(NetworkPath);
+	std::string names = escapeBeyondAscii(std::string_view(path).substr(drive));
+	std::ranges::replace(names, '/', '\\');
+	const bool isNetworks = drive == 0 && names.starts_with(NetworkPath);
 
 	std::string url = "file://localhost/" + path.substr(0, drive);
+	url.reserve(url.size() + 2 * names.size());
 	bool needsSeparator = drive > 0 || isNetworks;
-	for (std::size_t begin = drive; begin < separated.size();)
+	for (std::size_t begin = 0; begin < names.size();)
 	{
-		const std::size_t end = std::min(separated.find('\\', begin), separated.size());
+		const std::size_t end = std::min(names.find('\\', begin), names.size());
 		if (end > begin)
 		{
 			url += needsSeparator ? "/" : "";
-			appendEscaped(url, std::string_view(separated).substr(begin, end - begin));
+			appendEscaped(url, std::string_view(names).substr(begin, end - begin));
 			needsSeparator = true;
 		}
 		begin = end + 1;
@@ -159,8 +175,12 @@ std::string fileUrlToPath(const std::string& url)
 	std::string path = unescape(std::string(behindScheme.substr(begin)));
 	std::ranges::replace(path, '/', '\\');
 	const std::size_t separators = std::min(path.find_first_not_of('\\'), path.size());
-	const std::string names = path.substr(separators);
-	const bool isNetworks = (!isLocal || separators > 0) && !names.empty() && !startsWithDrive(names);
-	return isNetworks ? std::string(NetworkPath) + names : names;
+	path.erase(0, separators);
+	const bool isNetworks = (!isLocal || separators > 0) && !path.empty() && !startsWithDrive(path);
+	if (isNetworks)
+	{
+		path.insert(0, NetworkPath);
+	}
+	return path;
 }
 } // namespace Kiln

@@ -14,5 +14,6 @@ FDelegateHandle FDelegateHandle::New()
 }
 
 FSimpleMulticastDelegate FCoreDelegates::OnFEngineLoopInitComplete(TEXT("FCoreDelegates::OnFEngineLoopInitComplete"));
+FSimpleMulticastDelegate FCoreDelegates::OnPostEngineInit(TEXT("FCoreDelegates::OnPostEngineInit"));
 FSimpleMulticastDelegate FCoreDelegates::OnPreExit(TEXT("FCoreDelegates::OnPreExit"));
 FSimpleMulticastDelegate FCoreDelegates::OnExit(TEXT("FCoreDelegates::OnExit"));

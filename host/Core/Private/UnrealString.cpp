@@ -54,7 +54,7 @@ FString FString::ToLower() const
 	FString Lower = *this;
 	for (TCHAR& Char : Lower.Data)
 	{
-		Char += Char >= TEXT('A') && Char <= TEXT('Z') ? TEXT('a') - TEXT('A') : 0;
+		Char = Char >= TEXT('A') && Char <= TEXT('Z') ? static_cast<TCHAR>(Char - TEXT('A') + TEXT('a')) : Char;
 	}
 	return Lower;
 }

@@ -16,6 +16,8 @@
 #include "Math/Color.h"
 #include "Math/IntPoint.h"
 #include "Math/IntRect.h"
+#include "Math/UnrealMathUtility.h"
+#include "Math/Vector4.h"
 #include "Misc/AssertionMacros.h"
 #include "Templates/SharedPointer.h"
 #include "Templates/UniquePtr.h"

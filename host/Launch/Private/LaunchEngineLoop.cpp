@@ -79,6 +79,7 @@ void FEngineLoop::Start(const TArray<FString>& PluginFolders)
 	{
 		MakeEditor();
 	}
+	FCoreDelegates::OnPostEngineInit.Broadcast();
 	LoadPhases({TEXT("PostEngineInit")});
 	if (!bIsCommandlet)
 	{

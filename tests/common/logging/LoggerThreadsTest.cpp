@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <iostream>
 #include <kiln/Logger.h>
+#include <latch>
 #include <string_view>
 #include <thread>
 
@@ -66,6 +67,15 @@ TEST(LoggerThreads, OfOneFileLoseAndMixNothing)
 	constexpr int Threads = 16;
 	constexpr int Lines = 10'000;
 	const TemporaryFolder folder;
+	// Made before, so that the threads do nothing but log.
+	std::vector<std::vector<std::string>> texts(Threads);
+	for (int thread = 0; thread < Threads; ++thread)
+	{
+		for (int line = 0; line < Lines; ++line)
+		{
+			texts[static_cast<std::size_t>(thread)].push_back(text(thread, line));
+		}
+	}
 	{
 		Kiln::Logger logger;
 		logger.setDefaultLogFile(folder / "a.log");
@@ -73,9 +83,9 @@ TEST(LoggerThreads, OfOneFileLoseAndMixNothing)
 			[&](int thread)
 			{
 				const std::string name = "writer " + std::to_string(thread / 2);
-				for (int line = 0; line < Lines; ++line)
+				for (const std::string& line : texts[static_cast<std::size_t>(thread)])
 				{
-					warn(*logger.component(name), text(thread, line));
+					warn(*logger.component(name), line);
 				}
 			});
 	}
@@ -157,8 +167,15 @@ TEST(LoggerThreads, MayLogWhileOthersConfigure)
 
 TEST(LoggerThreads, GetOneInstance)
 {
-	std::vector<Kiln::Logger*> instances(8);
-	onThreads(8, [&](int thread) { instances[static_cast<std::size_t>(thread)] = &Kiln::Logger::instance(); });
-	EXPECT_EQ(std::ranges::count(instances, &Kiln::Logger::instance()), 8);
+	constexpr int Threads = 8;
+	std::vector<Kiln::Logger*> instances(Threads);
+	std::latch start(Threads);
+	onThreads(Threads,
+		[&](int thread)
+		{
+			start.arrive_and_wait();
+			instances[static_cast<std::size_t>(thread)] = &Kiln::Logger::instance();
+		});
+	EXPECT_EQ(std::ranges::count(instances, &Kiln::Logger::instance()), Threads);
 }
 } // namespace

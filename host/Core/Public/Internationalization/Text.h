@@ -11,6 +11,8 @@ public:
 
 	static FText FromString(FString String) { return FText(std::move(String)); }
 
+	static FText GetEmpty() { return FText(); }
+
 	static FText FromName(const FName& Name) { return FText(Name.ToString()); }
 
 	const FString& ToString() const { return Text; }

@@ -32,8 +32,8 @@ private:
 		FString Section;
 
 		/** Empty for lines that are no "Key=Value". */
-		FString Key;
-		FString Value;
+		FString Key{};
+		FString Value{};
 	};
 
 	/** A section ends with an empty line. */

@@ -24,3 +24,8 @@ UClass* FAssetData::GetClass() const
 {
 	return static_cast<UClass*>(StaticFindObject(UClass::StaticClass(), *AssetClassPath.ToString()));
 }
+
+UObject* FAssetData::GetAsset() const
+{
+	return IsValid() ? StaticLoadObject(UObject::StaticClass(), *GetObjectPathString()) : nullptr;
+}

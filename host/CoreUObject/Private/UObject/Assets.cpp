@@ -91,6 +91,14 @@ void HostAssets::Add(UObject& Asset)
 	Asset.MarkPackageDirty();
 }
 
+void HostAssets::Delete(UObject& Asset)
+{
+	std::error_code Ignored;
+	std::filesystem::remove(*FileOf(&Asset), Ignored);
+	Registry.erase(Asset.GetPathName());
+	Asset.MarkAsGarbage();
+}
+
 void HostAssets::SaveDirtyPackages()
 {
 	for (const auto& [Path, Asset] : Registry)

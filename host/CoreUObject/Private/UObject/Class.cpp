@@ -27,7 +27,7 @@ UClass* Define(UClass* Class, size_t Size, const TCHAR* ConfigName, UClass::FCon
 	Class->SuperStruct = Super;
 	Class->PropertiesSize = static_cast<int32>(Size);
 	Class->ClassConfigName = FName(ConfigName);
-	Class->ClassFlags = CLASS_Native | (Class->ClassConfigName.IsNone() ? 0 : CLASS_Config);
+	Class->ClassFlags = CLASS_Native | (Class->ClassConfigName.IsNone() ? CLASS_None : CLASS_Config);
 	Class->ClassConstructor = Constructor;
 	return Class;
 }

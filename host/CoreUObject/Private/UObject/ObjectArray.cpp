@@ -1,4 +1,5 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "UObject/GCObject.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
 
@@ -10,6 +11,12 @@ namespace
 std::vector<UObject*> Objects;
 
 bool bInitialized = false;
+
+TArray<FGCObject*>& Referencers()
+{
+	static TArray<FGCObject*> All;
+	return All;
+}
 
 template <typename Predicate>
 void DestroyWhere(Predicate Pred)
@@ -78,7 +85,22 @@ void GetDerivedClasses(const UClass* ClassToLookFor, TArray<UClass*>& Results)
 	}
 }
 
+FGCObject::FGCObject()
+{
+	Referencers().Add(this);
+}
+
+FGCObject::~FGCObject()
+{
+	Referencers().Remove(this);
+}
+
 void CollectGarbage()
 {
+	FReferenceCollector Collector;
+	for (FGCObject* Referencer : Referencers())
+	{
+		Referencer->AddReferencedObjects(Collector);
+	}
 	DestroyWhere([](const UObject* Object) { return Object->IsGarbage(); });
 }

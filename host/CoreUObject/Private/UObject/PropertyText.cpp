@@ -110,6 +110,20 @@ void HostText::Read(const FString& Text, FName& OutValue)
 	}
 }
 
+FString HostText::Write(const FVector4& Value)
+{
+	return FString::Printf(TEXT("(X=%f,Y=%f,Z=%f,W=%f)"), Value.X, Value.Y, Value.Z, Value.W);
+}
+
+void HostText::Read(const FString& Text, FVector4& OutValue)
+{
+	FVector4 Value;
+	if (std::swscanf(*Text, L"(X=%lf,Y=%lf,Z=%lf,W=%lf)", &Value.X, &Value.Y, &Value.Z, &Value.W) == 4)
+	{
+		OutValue = Value;
+	}
+}
+
 FString HostText::WriteObject(const UObject* Value)
 {
 	return Value ? FString::Printf(TEXT("\"%s'%s'\""), *Value->GetClass()->GetPathName(), *Value->GetPathName())

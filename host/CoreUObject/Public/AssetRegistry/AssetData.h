@@ -25,6 +25,9 @@ struct FAssetData
 	/** Null for a class that does not exist. */
 	COREUOBJECT_API UClass* GetClass() const;
 
+	/** The object, loaded if it is not in memory yet; null when there is none. */
+	COREUOBJECT_API UObject* GetAsset() const;
+
 	/** Such as "/Game/Looks/Warm.Warm". */
 	FString GetObjectPathString() const { return PackageName.ToString() + TEXT(".") + AssetName.ToString(); }
 

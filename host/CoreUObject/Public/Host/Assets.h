@@ -16,6 +16,9 @@ COREUOBJECT_API TArray<FAssetData> GetAll();
 /** Registers an asset that was made in this session; its package becomes dirty. */
 COREUOBJECT_API void Add(UObject& Asset);
 
+/** Deletes an asset: out of the registry and the content folder; its object becomes garbage. */
+COREUOBJECT_API void Delete(UObject& Asset);
+
 /** Writes the assets whose packages are dirty. */
 COREUOBJECT_API void SaveDirtyPackages();
 

@@ -97,5 +97,11 @@ private:
 	const std::shared_ptr<UObject> Watched{this, [](UObject*) {}};
 };
 
+/** Whether it is an object that is no garbage. */
+inline bool IsValid(const UObject* Test)
+{
+	return Test && !Test->IsGarbage();
+}
+
 /** Destroys all objects that are marked as garbage. */
 COREUOBJECT_API void CollectGarbage();

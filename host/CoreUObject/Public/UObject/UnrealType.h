@@ -11,12 +11,14 @@ namespace HostText
 COREUOBJECT_API FString Write(bool Value);
 COREUOBJECT_API FString Write(float Value);
 COREUOBJECT_API FString Write(const FName& Value);
+COREUOBJECT_API FString Write(const FVector4& Value);
 COREUOBJECT_API FString WriteObject(const UObject* Value);
 COREUOBJECT_API FString WriteStruct(const UScriptStruct& Struct, const void* Value);
 
 COREUOBJECT_API void Read(const FString& Text, bool& OutValue);
 COREUOBJECT_API void Read(const FString& Text, float& OutValue);
 COREUOBJECT_API void Read(const FString& Text, FName& OutValue);
+COREUOBJECT_API void Read(const FString& Text, FVector4& OutValue);
 COREUOBJECT_API UObject* ReadObject(const FString& Text, UClass* Class, UObject* Before);
 COREUOBJECT_API void ReadStruct(const FString& Text, const UScriptStruct& Struct, void* OutValue);
 

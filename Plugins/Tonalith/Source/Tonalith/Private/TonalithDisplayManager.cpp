@@ -22,3 +22,16 @@ bool FTonalithDisplayManager::RemoveDisplayConfiguration(const FViewportClient* 
 {
 	return Configurations.Remove(Client) > 0;
 }
+
+void FTonalithDisplayManager::AddReferencedObjects(FReferenceCollector& Collector)
+{
+	for (auto& [Client, Configuration] : Configurations)
+	{
+		Collector.AddReferencedObject(Configuration->Look);
+	}
+}
+
+FString FTonalithDisplayManager::GetReferencerName() const
+{
+	return TEXT("FTonalithDisplayManager");
+}

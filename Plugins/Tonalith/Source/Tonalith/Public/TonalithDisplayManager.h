@@ -4,15 +4,17 @@
 
 #include "Containers/Map.h"
 #include "TonalithDisplayConfiguration.h"
+#include "UObject/GCObject.h"
 
 class FViewportClient;
 
 /**
  * Owns the records. A reference that was handed out stays valid until that client's record is removed, whatever else is
  * added or removed. Clients are keys only: they are never dereferenced, so a dead client's pointer is a valid argument.
+ * The looks of all records are kept alive; one that is deleted becomes none.
  * Game thread.
  */
-class FTonalithDisplayManager
+class FTonalithDisplayManager final : public FGCObject
 {
 public:
 	FTonalithDisplayManager() = default;
@@ -27,6 +29,9 @@ public:
 
 	/** @return whether the client had a record */
 	TONALITH_API bool RemoveDisplayConfiguration(const FViewportClient* Client);
+
+	void AddReferencedObjects(FReferenceCollector& Collector) override;
+	FString GetReferencerName() const override;
 
 private:
 	/** Behind pointers: growth of the map may not move a record. */

@@ -8,13 +8,41 @@
 
 struct FTonalithAPI_ImageDesc;
 
-/** A look: what is done to the colours of a picture. */
+/**
+ * A look: what is done to the colours of a picture. Each control has a value for red, green and blue, and one that scales,
+ * or for the offset shifts, all three. The defaults change nothing.
+ */
 UCLASS(MinimalAPI)
 class UTonalithObject : public UObject
 {
 	GENERATED_BODY()
 
 public:
+	/** How strong colours are: 0 leaves greys, 1 the colours as they are. */
+	UPROPERTY(EditAnywhere, Category = "Grading",
+		meta = (UIMin = "0.0", UIMax = "2.0", Delta = "0.01", ColorGradingMode = "saturation"))
+	FVector4 Saturation = FVector4(1.0, 1.0, 1.0, 1.0);
+
+	/** How far light and dark lie apart, around middle grey. */
+	UPROPERTY(EditAnywhere, Category = "Grading",
+		meta = (UIMin = "0.0", UIMax = "2.0", Delta = "0.01", ColorGradingMode = "contrast"))
+	FVector4 Contrast = FVector4(1.0, 1.0, 1.0, 1.0);
+
+	/** How bright the middle is; black and white stay. */
+	UPROPERTY(EditAnywhere, Category = "Grading",
+		meta = (UIMin = "0.0", UIMax = "2.0", Delta = "0.01", ColorGradingMode = "gamma"))
+	FVector4 Gamma = FVector4(1.0, 1.0, 1.0, 1.0);
+
+	/** How bright everything is; black stays. */
+	UPROPERTY(EditAnywhere, Category = "Grading",
+		meta = (UIMin = "0.0", UIMax = "2.0", Delta = "0.01", ColorGradingMode = "gain"))
+	FVector4 Gain = FVector4(1.0, 1.0, 1.0, 1.0);
+
+	/** What is added to everything. */
+	UPROPERTY(EditAnywhere, Category = "Grading",
+		meta = (UIMin = "-1.0", UIMax = "1.0", Delta = "0.001", ColorGradingMode = "offset"))
+	FVector4 Offset = FVector4(0.0, 0.0, 0.0, 0.0);
+
 	/**
 	 * Shows the look's user interface with a picture to judge the look by. A picture that its description contradicts is
 	 * refused with a warning in the log. Game thread.

@@ -1,0 +1,49 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "LookGrading.h"
+
+#include "Engine/Scene.h"
+#include "TonalithObject.h"
+
+namespace
+{
+struct FControlRange
+{
+	double Minimum;
+	double Maximum;
+
+	/** Changes nothing. */
+	double Neutral;
+};
+
+constexpr FControlRange Factor{0.0, 8.0, 1.0};
+/** The engine divides by it. */
+constexpr FControlRange Exponent{0.01, 8.0, 1.0};
+constexpr FControlRange Summand{-8.0, 8.0, 0.0};
+
+double Blend(double Setting, double Value, const FControlRange& Range, double Weight)
+{
+	const double Valid = FMath::IsFinite(Value) ? FMath::Clamp(Value, Range.Minimum, Range.Maximum) : Range.Neutral;
+	return Setting + (Valid - Setting) * Weight;
+}
+
+void Blend(FVector4& Setting, const FVector4& Value, const FControlRange& Range, double Weight)
+{
+	Setting = FVector4(Blend(Setting.X, Value.X, Range, Weight), Blend(Setting.Y, Value.Y, Range, Weight),
+		Blend(Setting.Z, Value.Z, Range, Weight), Blend(Setting.W, Value.W, Range, Weight));
+}
+} // namespace
+
+void BlendLook(const UTonalithObject& Look, float Weight, FPostProcessSettings& Settings)
+{
+	const double Share = FMath::IsFinite(Weight) ? FMath::Clamp(static_cast<double>(Weight), 0.0, 1.0) : 0.0;
+	Blend(Settings.ColorSaturation, Look.Saturation, Factor, Share);
+	Blend(Settings.ColorContrast, Look.Contrast, Factor, Share);
+	Blend(Settings.ColorGamma, Look.Gamma, Exponent, Share);
+	Blend(Settings.ColorGain, Look.Gain, Factor, Share);
+	Blend(Settings.ColorOffset, Look.Offset, Summand, Share);
+	Settings.bOverride_ColorSaturation = true;
+	Settings.bOverride_ColorContrast = true;
+	Settings.bOverride_ColorGamma = true;
+	Settings.bOverride_ColorGain = true;
+	Settings.bOverride_ColorOffset = true;
+}

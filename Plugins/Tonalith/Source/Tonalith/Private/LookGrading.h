@@ -1,0 +1,13 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// Looks in the engine's own colour grading.
+#pragma once
+
+class UTonalithObject;
+struct FPostProcessSettings;
+
+/**
+ * Blends the look's controls into the settings of a view. Values outside a control's range are taken as its nearest end,
+ * what is no number as the neutral value.
+ * @param Weight 0 leaves the settings as they are, 1 sets the look in full
+ */
+void BlendLook(const UTonalithObject& Look, float Weight, FPostProcessSettings& Settings);
