@@ -1,7 +1,10 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // Finding the display record of one client among 64, as every draw of a viewport does.
+#include "Modules/ModuleManager.h"
+#include "Session.h"
 #include "Subject.h"
 #include "TonalithDisplayManager.h"
+#include "TonalithModuleInterface.h"
 #include "UnrealClient.h"
 
 #include <unordered_map>
@@ -9,6 +12,12 @@
 
 namespace
 {
+FTonalithDisplayManager& records()
+{
+	Bench::session();
+	return FModuleManager::LoadModuleChecked<ITonalithModule>("Tonalith").GetDisplayManager();
+}
+
 std::vector<FViewportClient>& clients()
 {
 	static std::vector<FViewportClient> all(64);
@@ -17,7 +26,7 @@ std::vector<FViewportClient>& clients()
 
 void registry(benchmark::State& state)
 {
-	FTonalithDisplayManager manager;
+	FTonalithDisplayManager& manager = records();
 	for (FViewportClient& client : clients())
 	{
 		manager.FindOrAddDisplayConfiguration(&client);
