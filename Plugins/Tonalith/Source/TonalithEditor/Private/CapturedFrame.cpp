@@ -8,7 +8,9 @@ TArray<uint8> FrameFromPixels(const TArray<FColor>& Pixels)
 	TArray<uint8> Frame;
 	Frame.SetNumUninitialized(Pixels.Num() * 4);
 	uint8* Target = Frame.GetData();
-	for (const FColor* Pixel = Pixels.GetData(); Pixel != Pixels.GetData() + Pixels.Num(); ++Pixel, Target += 4)
+	// Held outside the loop: as far as a compiler knows, the writes below could move the array's end.
+	const FColor* const End = Pixels.GetData() + Pixels.Num();
+	for (const FColor* Pixel = Pixels.GetData(); Pixel != End; ++Pixel, Target += 4)
 	{
 		// Whole words: byte by byte this would run well below the speed of memory.
 		const uint32 Word = Pixel->DWColor();
