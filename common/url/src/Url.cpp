@@ -1,5 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <array>
 #include <kiln/Url.h>
 #include <shlwapi.h>
 #include <string_view>
@@ -13,7 +14,13 @@ constexpr std::string_view Scheme = "file://";
 constexpr std::string_view Localhost = "localhost";
 constexpr std::string_view SchemeEnd = "://";
 constexpr std::string_view WithoutHost = ":///";
+constexpr std::string_view EscapedNul = "%00";
 constexpr std::string_view NetworkPath = "\\\\";
+
+bool isSeparator(char c)
+{
+	return c == '\\' || c == '/';
+}
 
 bool equalsIgnoringCase(std::string_view left, std::string_view right)
 {
@@ -27,27 +34,6 @@ bool startsWithDrive(std::string_view path)
 	return isLetter && path.size() >= 2 && path[1] == ':' && (path.size() == 2 || path[2] == '\\');
 }
 
-/** Escapes what the platform's call cannot be trusted with: it ends at a NUL and takes other bytes for the code page's. */
-std::string escapeBeyondAscii(std::string_view names)
-{
-	constexpr std::string_view digits = "0123456789ABCDEF";
-	std::string escaped;
-	escaped.reserve(names.size());
-	for (const char c : names)
-	{
-		const auto byte = static_cast<unsigned char>(c);
-		if (byte == 0 || byte >= 0x80)
-		{
-			escaped += {'%', digits[byte / 16], digits[byte % 16]};
-		}
-		else
-		{
-			escaped += c;
-		}
-	}
-	return escaped;
-}
-
 /** Appends a text with every "&" as "%26". */
 void appendWithoutAmpersands(std::string& url, std::string_view text)
 {
@@ -59,50 +45,64 @@ void appendWithoutAmpersands(std::string& url, std::string_view text)
 	url += text;
 }
 
+/** The platform's calls take and give no more characters, a closing NUL included. */
+constexpr std::size_t LongestUrl = 2083;
+/** A piece of a name whose escaped form the platform's call can give: it makes three characters of one at most. */
+using Piece = std::array<char, LongestUrl / 3>;
+
 /**
- * Appends a name, piece by piece: the platform's call takes and gives no more than 2083 characters, a closing NUL included,
- * and makes three of one at most.
+ * Moves the beginning of a name, as much as has room, to a piece with a closing NUL, and escapes in it what the platform's
+ * call cannot be trusted with: it ends at a NUL and takes bytes beyond ASCII for the code page's.
+ * @return the piece's length without the NUL
  */
-void appendEscaped(std::string& url, std::string_view name)
+std::size_t takePiece(std::string_view& name, Piece& piece)
 {
-	constexpr std::size_t room = 2083;
-	constexpr std::size_t longestPiece = (room - 1) / 3;
-	while (!name.empty())
+	constexpr std::string_view digits = "0123456789ABCDEF";
+	constexpr std::size_t longestEscape = 3;
+	std::size_t length = 0;
+	std::size_t taken = 0;
+	for (; taken < name.size() && length + longestEscape < piece.size(); ++taken)
 	{
-		char piece[longestPiece + 1];
-		const std::size_t size = name.copy(piece, longestPiece);
-		piece[size] = '\0';
-		name.remove_prefix(size);
-
-		char escaped[room];
-		DWORD length = room;
-		const bool isEscaped = SUCCEEDED(UrlEscapeA(piece, escaped, &length, 0));
-		appendWithoutAmpersands(url, isEscaped ? std::string_view(escaped, length) : std::string_view(piece, size));
-	}
-}
-
-bool holdsNul(std::string_view text)
-{
-	for (std::size_t at = 0; at < text.size(); ++at)
-	{
-		if (text[at] == '\0' || (text[at] == '%' && text.substr(at + 1, 2) == "00"))
+		const auto byte = static_cast<unsigned char>(name[taken]);
+		const bool isPlain = byte > 0 && byte < 0x80;
+		piece[length++] = isPlain ? name[taken] : '%';
+		if (!isPlain)
 		{
-			return true;
+			piece[length++] = digits[byte / 16];
+			piece[length++] = digits[byte % 16];
 		}
 	}
-	return false;
+	piece[length] = '\0';
+	name.remove_prefix(taken);
+	return length;
 }
 
-/** Empty for a text with a NUL, escaped or not: what the platform's call makes of it is not told. */
-std::string unescape(std::string text)
+void appendEscaped(std::string& url, std::string_view name)
 {
-	if (text.empty() || holdsNul(text))
+	Piece piece;
+	std::array<char, LongestUrl> escaped;
+	while (!name.empty())
+	{
+		const std::string_view plain(piece.data(), takePiece(name, piece));
+		auto length = static_cast<DWORD>(escaped.size());
+		const bool isEscaped = SUCCEEDED(UrlEscapeA(piece.data(), escaped.data(), &length, 0));
+		appendWithoutAmpersands(url, isEscaped ? std::string_view(escaped.data(), length) : plain);
+	}
+}
+
+/** The end of a URL, unescaped. Empty for one with a NUL, escaped or not: what the platform's call makes of it is not told. */
+std::string unescapedFrom(const std::string& url, std::size_t begin)
+{
+	const std::string_view escaped = std::string_view(url).substr(begin);
+	const bool holdsNul = escaped.find('\0') != escaped.npos || !std::ranges::search(escaped, EscapedNul).empty();
+	if (holdsNul || escaped.empty())
 	{
 		return {};
 	}
-	std::string plain(text.size() + 1, '\0');
+	std::string plain(escaped.size() + 1, '\0');
 	auto length = static_cast<DWORD>(plain.size());
-	if (FAILED(UrlUnescapeA(text.data(), plain.data(), &length, 0)))
+	// The call writes its input only when told to work in place.
+	if (FAILED(UrlUnescapeA(const_cast<char*>(escaped.data()), plain.data(), &length, 0)))
 	{
 		return {};
 	}
@@ -118,23 +118,22 @@ std::string pathToFileUrl(const std::string& path)
 		throw UrlException();
 	}
 	const std::size_t drive = path.find(':') + 1;
-	std::string names = escapeBeyondAscii(std::string_view(path).substr(drive));
-	std::ranges::replace(names, '/', '\\');
-	const bool isNetworks = drive == 0 && names.starts_with(NetworkPath);
+	const bool isNetworks = path.size() >= 2 && isSeparator(path[0]) && isSeparator(path[1]);
 
-	std::string url = "file://localhost/" + path.substr(0, drive);
-	url.reserve(url.size() + 2 * names.size());
+	std::string url = "file://localhost/";
+	url.reserve(url.size() + 2 * path.size());
+	url.append(path, 0, drive);
 	bool needsSeparator = drive > 0 || isNetworks;
-	for (std::size_t begin = 0; begin < names.size();)
+	for (std::string_view rest = std::string_view(path).substr(drive); !rest.empty();)
 	{
-		const std::size_t end = std::min(names.find('\\', begin), names.size());
-		if (end > begin)
+		const auto end = static_cast<std::size_t>(std::ranges::find_if(rest, isSeparator) - rest.begin());
+		if (end > 0)
 		{
 			url += needsSeparator ? "/" : "";
-			appendEscaped(url, std::string_view(names).substr(begin, end - begin));
+			appendEscaped(url, rest.substr(0, end));
 			needsSeparator = true;
 		}
-		begin = end + 1;
+		rest.remove_prefix(std::min(end + 1, rest.size()));
 	}
 	return url;
 }
@@ -172,7 +171,7 @@ std::string fileUrlToPath(const std::string& url)
 	const bool isLocal = host.empty() || equalsIgnoringCase(host, Localhost);
 	const std::size_t begin = isLocal ? std::min(hostEnd + 1, behindScheme.size()) : 0;
 
-	std::string path = unescape(std::string(behindScheme.substr(begin)));
+	std::string path = unescapedFrom(url, Scheme.size() + begin);
 	std::ranges::replace(path, '/', '\\');
 	const std::size_t separators = std::min(path.find_first_not_of('\\'), path.size());
 	path.erase(0, separators);
