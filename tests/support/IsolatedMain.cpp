@@ -1,32 +1,14 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // Runs each test in a process of its own: a process can have one editor session, and a fatal check ends it.
+#include "ChildProcess.h"
+
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
-#include <windows.h>
 
 namespace
 {
-/** Runs this program for one test and returns its exit code. */
-DWORD RunAlone(const std::string& Program, const std::string& Test)
-{
-	std::string CommandLine = "\"" + Program + "\" --gtest_brief=1 --gtest_filter=" + Test;
-	STARTUPINFOA Startup{};
-	Startup.cb = sizeof Startup;
-	PROCESS_INFORMATION Process{};
-	if (!CreateProcessA(nullptr, CommandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &Startup, &Process))
-	{
-		return GetLastError();
-	}
-	WaitForSingleObject(Process.hProcess, INFINITE);
-	DWORD Code = 0;
-	GetExitCodeProcess(Process.hProcess, &Code);
-	CloseHandle(Process.hThread);
-	CloseHandle(Process.hProcess);
-	return Code;
-}
-
 std::vector<std::string> AllTests()
 {
 	std::vector<std::string> Names;
@@ -54,7 +36,8 @@ int main(int Count, char** Arguments)
 	const std::vector<std::string> Tests = AllTests();
 	for (const std::string& Test : Tests)
 	{
-		const DWORD Code = RunAlone(Arguments[0], Test);
+		const std::string CommandLine = "\"" + std::string(Arguments[0]) + "\" --gtest_brief=1 --gtest_filter=" + Test;
+		const DWORD Code = ChildProcess(std::wstring(CommandLine.begin(), CommandLine.end())).exitCode();
 		Failures += Code != 0;
 		std::printf("%s %s (exit code %lu)\n", Code == 0 ? "passed" : "FAILED", Test.c_str(), Code);
 		std::fflush(stdout);

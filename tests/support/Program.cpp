@@ -1,9 +1,10 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Program.h"
 
+#include "ChildProcess.h"
+
 #include <algorithm>
 #include <stdexcept>
-#include <windows.h>
 
 FProgramResult RunHeadlessEditor(const std::wstring& Arguments)
 {
@@ -14,17 +15,7 @@ FProgramResult RunHeadlessEditor(const std::wstring& Arguments)
 	{
 		throw std::runtime_error("no pipe");
 	}
-	STARTUPINFOW Startup{};
-	Startup.cb = sizeof Startup;
-	Startup.dwFlags = STARTF_USESTDHANDLES;
-	Startup.hStdOutput = Write;
-	Startup.hStdError = Write;
-	PROCESS_INFORMATION Process{};
-	std::wstring CommandLine = L"HeadlessEditor.exe " + Arguments;
-	if (!CreateProcessW(nullptr, CommandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &Startup, &Process))
-	{
-		throw std::runtime_error("HeadlessEditor.exe does not start");
-	}
+	const ChildProcess Editor(L"HeadlessEditor.exe " + Arguments, Write);
 	CloseHandle(Write);
 	FProgramResult Result{};
 	char Part[4096];
@@ -33,10 +24,7 @@ FProgramResult RunHeadlessEditor(const std::wstring& Arguments)
 		Result.Output.append(Part, Size);
 	}
 	std::erase(Result.Output, '\r');
-	WaitForSingleObject(Process.hProcess, INFINITE);
-	GetExitCodeProcess(Process.hProcess, &Result.ExitCode);
-	CloseHandle(Process.hThread);
-	CloseHandle(Process.hProcess);
+	Result.ExitCode = Editor.exitCode();
 	CloseHandle(Read);
 	return Result;
 }

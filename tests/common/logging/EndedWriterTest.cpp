@@ -1,5 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // What a writer was told to be in the file is there, however the writer ends.
+#include "ChildProcess.h"
 #include "LogLines.h"
 #include "TemporaryFolder.h"
 
@@ -74,31 +75,15 @@ TEST(EndedWriter, LeavesTheLinesOfAllCallsThatReturned)
 	{
 		const std::string file = folder / (std::to_string(round) + ".log");
 		SetEnvironmentVariableW(LogVariable, Kiln::toWide(file).c_str());
-		std::wstring command = L"\"" + std::wstring(program) + L"\" --gtest_filter=EndedWriter.Writes";
-		STARTUPINFOW startup{};
-		startup.cb = sizeof startup;
-		PROCESS_INFORMATION process{};
 		*shared.count = 0;
-		// On a loaded machine a start may fail; only what a writer leaves behind is judged here.
-		bool isStarted = false;
-		for (int attempt = 0; attempt < 20 && !isStarted; ++attempt)
-		{
-			Sleep(static_cast<DWORD>(attempt) * 50);
-			isStarted = CreateProcessW(program, command.data(), nullptr, nullptr, FALSE, DETACHED_PROCESS, nullptr,
-				nullptr, &startup, &process);
-		}
-		ASSERT_TRUE(isStarted) << GetLastError();
-		while (*shared.count == 0 && WaitForSingleObject(process.hProcess, 1) == WAIT_TIMEOUT)
+		const ChildProcess writer(
+			L"\"" + std::wstring(program) + L"\" --gtest_brief=1 --gtest_filter=EndedWriter.Writes");
+		while (*shared.count == 0 && !writer.endsWithin(1))
 		{
 		}
-		WaitForSingleObject(process.hProcess, random() % 20);
-		TerminateProcess(process.hProcess, 9);
-		WaitForSingleObject(process.hProcess, INFINITE);
-		DWORD code = 0;
-		GetExitCodeProcess(process.hProcess, &code);
-		CloseHandle(process.hThread);
-		CloseHandle(process.hProcess);
-		ASSERT_EQ(code, 9u);
+		writer.endsWithin(random() % 20);
+		writer.terminate(9);
+		ASSERT_EQ(writer.exitCode(), 9u);
 
 		const std::vector<std::string> lines = linesOf(file);
 		const LONG returned = *shared.count;
