@@ -1,11 +1,11 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Report.h"
 
-#include "Misc/Paths.h"
 #include "Story.h"
 
 #include <filesystem>
 #include <fstream>
+#include <windows.h>
 
 namespace
 {
@@ -76,8 +76,10 @@ void FReport::AddPicture(const FString& File, const std::string& Caption) const
 		return;
 	}
 	const std::filesystem::path Source = *File;
-	std::filesystem::copy_file(
-		Source, std::filesystem::path(*Folder) / Source.filename(), std::filesystem::copy_options::overwrite_existing);
+	if (!CopyFileW(Source.c_str(), (std::filesystem::path(*Folder) / Source.filename()).c_str(), FALSE))
+	{
+		throw FStoryError("the picture cannot be copied to the report");
+	}
 	Append("<figure><img alt=\"\" src=\"" + Source.filename().string() + "\">" + Element("figcaption", Caption) +
 		   "</figure>\n");
 }

@@ -13,6 +13,9 @@
 
 namespace
 {
+constexpr const char* StartVerb = "start";
+constexpr const char* QuitVerb = "quit";
+
 FString Wide(const std::string& Text)
 {
 	return FString(UTF8_TO_TCHAR(Text.c_str()));
@@ -55,27 +58,29 @@ FStoryPlayer::~FStoryPlayer()
 
 const std::vector<FStoryPlayer::FVerb>& FStoryPlayer::Verbs()
 {
+	using P = FStoryPlayer;
+	using A = const FArguments;
 	static const std::vector<FVerb> All{
-		{"new project", 0, &FStoryPlayer::NewProject},
-		{"asset", 2, &FStoryPlayer::Asset},
-		{"put file", 2, &FStoryPlayer::PutFile},
-		{"start", 0, &FStoryPlayer::Start, true},
-		{"layout", 1, &FStoryPlayer::Layout},
-		{"open pane", 1, &FStoryPlayer::OpenPane},
-		{"close pane", 1, &FStoryPlayer::ClosePane},
-		{"activate pane", 1, &FStoryPlayer::ActivatePane},
-		{"open menu", 1, &FStoryPlayer::OpenMenu, true},
-		{"click", 1, &FStoryPlayer::Click},
-		{"create asset", 2, &FStoryPlayer::CreateAsset},
-		{"open assets", 1, &FStoryPlayer::OpenAssets, true},
-		{"save picture", 1, &FStoryPlayer::SavePicture},
-		{"play in", 1, &FStoryPlayer::PlayIn},
-		{"end play", 0, &FStoryPlayer::EndPlay},
-		{"quit", 0, &FStoryPlayer::Quit},
-		{"expect log", 1, &FStoryPlayer::ExpectLog},
-		{"expect menu", 1, &FStoryPlayer::ExpectMenu},
-		{"expect file", 2, &FStoryPlayer::ExpectFile},
-		{"expect picture", 2, &FStoryPlayer::ExpectPicture},
+		{"new project", 0, [](P& Player, A&) { Player.NewProject(); }},
+		{"asset", 2, [](P& Player, A& Args) { HostAssets::Write(Player.Options.ProjectFolder, Args[0], Args[1]); }},
+		{"put file", 2, [](P& Player, A& Args) { Player.PutFile(Args[0], Args[1]); }},
+		{StartVerb, 0, [](P& Player, A& Args) { Player.Start(Args); }, true},
+		{"layout", 1, [](P& Player, A& Args) { Player.Driver.SetLayout(Args[0]); }},
+		{"open pane", 1, [](P& Player, A& Args) { Player.Driver.OpenPane(Args[0]); }},
+		{"close pane", 1, [](P& Player, A& Args) { Player.Driver.ClosePane(Args[0]); }},
+		{"activate pane", 1, [](P& Player, A& Args) { Player.Driver.ActivatePane(Args[0]); }},
+		{"open menu", 1, [](P& Player, A& Args) { Player.OpenMenu(Args); }, true},
+		{"click", 1, [](P& Player, A& Args) { Player.Driver.Menus().Click(Args[0]); }},
+		{"create asset", 2, [](P& Player, A& Args) { Player.Driver.CreateAsset(Args[0], Args[1]); }},
+		{"open assets", 1, [](P& Player, A& Args) { Player.Driver.OpenAssets(Args); }, true},
+		{"save picture", 1, [](P& Player, A& Args) { Player.SavePicture(Args[0]); }},
+		{"play in", 1, [](P& Player, A& Args) { Player.PlayIn(Args[0]); }},
+		{"end play", 0, [](P& Player, A&) { Player.Driver.EndPlay(); }},
+		{QuitVerb, 0, [](P& Player, A&) { Player.Driver.Quit(); }},
+		{"expect log", 1, [](P& Player, A& Args) { Player.ExpectLog(Args[0]); }},
+		{"expect menu", 1, [](P& Player, A& Args) { Player.ExpectMenu(Args[0]); }},
+		{"expect file", 2, [](P& Player, A& Args) { Player.ExpectFile(Args[0], Args[1]); }},
+		{"expect picture", 2, [](P& Player, A& Args) { Player.ExpectPicture(Args[0], Args[1]); }},
 	};
 	return All;
 }
@@ -92,17 +97,17 @@ const FStoryPlayer::FVerb& FStoryPlayer::FindVerb(const FStory& Story, const FSt
 		{
 			continue;
 		}
-		OutArguments.clear();
+		OutArguments.Empty();
 		for (size_t Index = Count; Index < Step.Words.size(); ++Index)
 		{
-			OutArguments.push_back(Step.Words[Index].Text);
+			OutArguments.Add(Wide(Step.Words[Index].Text));
 		}
-		if (OutArguments.size() < Verb->ArgumentCount ||
-			(OutArguments.size() > Verb->ArgumentCount && !Verb->bTakesMore))
+		const int32 Given = OutArguments.Num();
+		if (Given < Verb->ArgumentCount || (Given > Verb->ArgumentCount && !Verb->bTakesMore))
 		{
 			throw Story.Error(Step, Step.Words[Count - 1].Column,
 				"\"" + Verb->Words + "\" takes " + std::to_string(Verb->ArgumentCount) + " argument(s), not " +
-					std::to_string(OutArguments.size()));
+					std::to_string(Given));
 		}
 		return *Verb;
 	}
@@ -116,11 +121,12 @@ void FStoryPlayer::Check(const FStory& Story)
 	for (const FStoryStep& Step : Story.Steps())
 	{
 		const FVerb& Verb = FindVerb(Story, Step, Ignored);
-		if (Verb.Do == &FStoryPlayer::Start && bIsRunning)
+		const bool bStarts = Verb.Words == StartVerb;
+		if (bStarts && bIsRunning)
 		{
 			throw Story.Error(Step, Step.Words[0].Column, "the editor is running already");
 		}
-		bIsRunning = Verb.Do == &FStoryPlayer::Start || (bIsRunning && Verb.Do != &FStoryPlayer::Quit);
+		bIsRunning = bStarts || (bIsRunning && Verb.Words != QuitVerb);
 	}
 }
 
@@ -138,11 +144,11 @@ void FStoryPlayer::Play(const FStory& Story, size_t Session)
 		Show(Step);
 		if (!Verb.Words.starts_with("expect"))
 		{
-			Log.clear();
+			Log.Empty();
 		}
 		try
 		{
-			(this->*Verb.Do)(Arguments);
+			Verb.Do(*this, Arguments);
 		}
 		catch (const FDriverError& Failure)
 		{
@@ -164,12 +170,11 @@ void FStoryPlayer::Show(const FStoryStep& Step) const
 
 void FStoryPlayer::Serialize(const TCHAR* Text, ELogVerbosity::Type, const FName& Category)
 {
-	const std::string Line = TCHAR_TO_UTF8(*(Category.ToString() + TEXT(": ") + Text));
-	Log.push_back(Line);
-	std::printf("    %s\n", Line.c_str());
+	Log.Add(Category.ToString() + TEXT(": ") + Text);
+	std::printf("    %s\n", TCHAR_TO_UTF8(*Log.Last()));
 }
 
-void FStoryPlayer::NewProject(const FArguments&)
+void FStoryPlayer::NewProject()
 {
 	for (const char* Folder : {"Content", "ProgramData", "Saved"})
 	{
@@ -182,15 +187,10 @@ void FStoryPlayer::NewProject(const FArguments&)
 	}
 }
 
-void FStoryPlayer::Asset(const FArguments& Arguments)
+void FStoryPlayer::PutFile(const FString& From, const FString& To)
 {
-	HostAssets::Write(Options.ProjectFolder, Wide(Arguments[0]), Wide(Arguments[1]));
-}
-
-void FStoryPlayer::PutFile(const FArguments& Arguments)
-{
-	const std::filesystem::path Source = *FPaths::Combine(StoryFolder, Wide(Arguments[0]));
-	const std::filesystem::path Target = *FPaths::Combine(Options.ProjectFolder, Wide(Arguments[1]));
+	const std::filesystem::path Source = *FPaths::Combine(StoryFolder, From);
+	const std::filesystem::path Target = *FPaths::Combine(Options.ProjectFolder, To);
 	std::error_code Failure;
 	std::filesystem::create_directories(Target.parent_path(), Failure);
 	if (std::filesystem::is_regular_file(Target, Failure))
@@ -200,150 +200,101 @@ void FStoryPlayer::PutFile(const FArguments& Arguments)
 	std::filesystem::copy(Source, Target, std::filesystem::copy_options::recursive, Failure);
 	if (Failure)
 	{
-		throw FDriverError(Wide(Arguments[0]) + TEXT(" cannot be copied"));
+		throw FDriverError(From + TEXT(" cannot be copied"));
 	}
 }
 
 void FStoryPlayer::Start(const FArguments& Arguments)
 {
-	if (!Arguments.empty())
+	if (!Arguments.IsEmpty())
 	{
-		Options.Culture = Wide(Arguments.back());
+		Options.Culture = Arguments.Last();
 	}
 	Driver.Start(Options);
 }
 
-void FStoryPlayer::OpenPane(const FArguments& Arguments)
-{
-	Driver.OpenPane(Wide(Arguments[0]));
-}
-
-void FStoryPlayer::Layout(const FArguments& Arguments)
-{
-	Driver.SetLayout(Wide(Arguments[0]));
-}
-
-void FStoryPlayer::ClosePane(const FArguments& Arguments)
-{
-	Driver.ClosePane(Wide(Arguments[0]));
-}
-
-void FStoryPlayer::ActivatePane(const FArguments& Arguments)
-{
-	Driver.ActivatePane(Wide(Arguments[0]));
-}
-
 void FStoryPlayer::OpenMenu(const FArguments& Arguments)
 {
-	for (const std::string& Name : Arguments)
+	for (const FString& Name : Arguments)
 	{
-		Name == "View" ? Driver.Menus().OpenViewMenu() : Driver.Menus().OpenSubMenu(Wide(Name));
+		Name.Equals(TEXT("View")) ? Driver.Menus().OpenViewMenu() : Driver.Menus().OpenSubMenu(Name);
 	}
 	Report.AddMenu(TCHAR_TO_UTF8(*Driver.Menus().Text()));
 }
 
-void FStoryPlayer::Click(const FArguments& Arguments)
+FString FStoryPlayer::PictureFile(const FString& Name) const
 {
-	Driver.Menus().Click(Wide(Arguments[0]));
+	return FPaths::Combine(Options.ProjectFolder, TEXT("Saved/Pictures"), Name + TEXT(".png"));
 }
 
-void FStoryPlayer::CreateAsset(const FArguments& Arguments)
+void FStoryPlayer::SavePicture(const FString& Name)
 {
-	Driver.CreateAsset(Wide(Arguments[0]), Wide(Arguments[1]));
-}
-
-void FStoryPlayer::OpenAssets(const FArguments& Arguments)
-{
-	TArray<FString> Paths;
-	for (const std::string& Path : Arguments)
+	if (!::SavePicture(Driver.TakePicture(), PictureFile(Name)))
 	{
-		Paths.Add(Wide(Path));
+		throw FDriverError(PictureFile(Name) + TEXT(" cannot be written"));
 	}
-	Driver.OpenAssets(Paths);
+	Report.AddPicture(PictureFile(Name), TCHAR_TO_UTF8(*Name));
 }
 
-FString FStoryPlayer::PictureFile(const std::string& Name) const
+void FStoryPlayer::ExpectPicture(const FString& Likeness, const FString& Name)
 {
-	return FPaths::Combine(Options.ProjectFolder, TEXT("Saved/Pictures"), Wide(Name) + TEXT(".png"));
-}
-
-void FStoryPlayer::SavePicture(const FArguments& Arguments)
-{
-	if (!::SavePicture(Driver.TakePicture(), PictureFile(Arguments[0])))
-	{
-		throw FDriverError(PictureFile(Arguments[0]) + TEXT(" cannot be written"));
-	}
-	Report.AddPicture(PictureFile(Arguments[0]), Arguments[0]);
-}
-
-void FStoryPlayer::ExpectPicture(const FArguments& Arguments)
-{
-	if (Arguments[0] != "like" && Arguments[0] != "unlike")
+	const bool bLike = Likeness.Equals(TEXT("like"));
+	if (!bLike && !Likeness.Equals(TEXT("unlike")))
 	{
 		throw FDriverError(TEXT("a picture is expected to be \"like\" or \"unlike\" a saved one"));
 	}
 	FPicture Saved;
-	if (!LoadPicture(PictureFile(Arguments[1]), Saved))
+	if (!LoadPicture(PictureFile(Name), Saved))
 	{
-		throw FDriverError(PictureFile(Arguments[1]) + TEXT(" cannot be read"));
+		throw FDriverError(PictureFile(Name) + TEXT(" cannot be read"));
 	}
-	if (IsSamePicture(Driver.TakePicture(), Saved) != (Arguments[0] == "like"))
+	if (IsSamePicture(Driver.TakePicture(), Saved) != bLike)
 	{
-		throw FDriverError(TEXT("the active pane does not show a picture ") + Wide(Arguments[0] + " " + Arguments[1]));
+		throw FDriverError(TEXT("the active pane does not show a picture ") + Likeness + TEXT(" ") + Name);
 	}
 }
 
-void FStoryPlayer::PlayIn(const FArguments& Arguments)
+void FStoryPlayer::PlayIn(const FString& Place)
 {
-	if (Arguments[0] != "pane" && Arguments[0] != "window")
+	const bool bInPane = Place.Equals(TEXT("pane"));
+	if (!bInPane && !Place.Equals(TEXT("window")))
 	{
 		throw FDriverError(TEXT("play is in a pane or in a window"));
 	}
-	Arguments[0] == "pane" ? Driver.PlayInPane() : Driver.PlayInWindow();
+	bInPane ? Driver.PlayInPane() : Driver.PlayInWindow();
 }
 
-void FStoryPlayer::EndPlay(const FArguments&)
+void FStoryPlayer::ExpectLog(const FString& Text)
 {
-	Driver.EndPlay();
-}
-
-void FStoryPlayer::Quit(const FArguments&)
-{
-	Driver.Quit();
-}
-
-void FStoryPlayer::ExpectLog(const FArguments& Arguments)
-{
-	const std::string& Text = Arguments[0];
-	if (std::none_of(
-			Log.begin(), Log.end(), [&Text](const std::string& Line) { return Line.find(Text) != std::string::npos; }))
+	if (!Log.ContainsByPredicate(
+			[&Text](const FString& Line) { return std::wstring_view(*Line).find(*Text) != std::wstring_view::npos; }))
 	{
-		throw FDriverError(TEXT("the log does not hold \"") + Wide(Text) + TEXT("\""));
+		throw FDriverError(TEXT("the log does not hold \"") + Text + TEXT("\""));
 	}
 }
 
-void FStoryPlayer::ExpectMenu(const FArguments& Arguments)
+void FStoryPlayer::ExpectMenu(const FString& Expected)
 {
 	// Whole rows, whatever their depth.
+	const std::string Wanted = TCHAR_TO_UTF8(*Expected);
 	std::istringstream Menu(TCHAR_TO_UTF8(*Driver.Menus().Text()));
 	std::string Others;
 	for (std::string Row; std::getline(Menu, Row);)
 	{
 		Row.erase(0, Row.find_first_not_of(' '));
-		if (Row == Arguments[0])
+		if (Row == Wanted)
 		{
 			return;
 		}
 		Others += " \"" + Row + "\"";
 	}
-	throw FDriverError(TEXT("no row of the open menus is \"") + Wide(Arguments[0] + "\", only:" + Others));
+	throw FDriverError(TEXT("no row of the open menus is \"") + Wide(Wanted + "\", only:" + Others));
 }
 
-void FStoryPlayer::ExpectFile(const FArguments& Arguments)
+void FStoryPlayer::ExpectFile(const FString& File, const FString& Expected)
 {
-	const FString File = FPaths::Combine(Options.ProjectFolder, Wide(Arguments[0]));
-	const std::string Actual = ReadFile(File);
-	if (Actual != WithEditorLineEnds(ReadFile(FPaths::Combine(StoryFolder, Wide(Arguments[1])))))
+	const std::string Actual = ReadFile(FPaths::Combine(Options.ProjectFolder, File));
+	if (Actual != WithEditorLineEnds(ReadFile(FPaths::Combine(StoryFolder, Expected))))
 	{
 		throw FDriverError(TEXT("the file is another one:\n") + Wide(Actual));
 	}

@@ -20,14 +20,14 @@ public:
 	void Play(const FStory& Story, size_t Session);
 
 private:
-	using FArguments = std::vector<std::string>;
+	using FArguments = TArray<FString>;
 
 	struct FVerb
 	{
 		/** The fixed words at the front of a step. */
 		std::string Words;
-		size_t ArgumentCount;
-		void (FStoryPlayer::*Do)(const FArguments& Arguments);
+		int32 ArgumentCount;
+		void (*Do)(FStoryPlayer& Player, const FArguments& Arguments);
 
 		/** Whether the last argument may be repeated. */
 		bool bTakesMore = false;
@@ -36,29 +36,19 @@ private:
 	static const std::vector<FVerb>& Verbs();
 	static const FVerb& FindVerb(const FStory& Story, const FStoryStep& Step, FArguments& OutArguments);
 
-	void NewProject(const FArguments& Arguments);
-	void Asset(const FArguments& Arguments);
-	void PutFile(const FArguments& Arguments);
+	void NewProject();
+	void PutFile(const FString& From, const FString& To);
 	void Start(const FArguments& Arguments);
-	void Layout(const FArguments& Arguments);
-	void OpenPane(const FArguments& Arguments);
-	void ClosePane(const FArguments& Arguments);
-	void ActivatePane(const FArguments& Arguments);
 	void OpenMenu(const FArguments& Arguments);
-	void Click(const FArguments& Arguments);
-	void CreateAsset(const FArguments& Arguments);
-	void OpenAssets(const FArguments& Arguments);
-	void SavePicture(const FArguments& Arguments);
-	void PlayIn(const FArguments& Arguments);
-	void EndPlay(const FArguments& Arguments);
-	void Quit(const FArguments& Arguments);
-	void ExpectLog(const FArguments& Arguments);
-	void ExpectMenu(const FArguments& Arguments);
-	void ExpectFile(const FArguments& Arguments);
-	void ExpectPicture(const FArguments& Arguments);
+	void SavePicture(const FString& Name);
+	void PlayIn(const FString& Place);
+	void ExpectLog(const FString& Text);
+	void ExpectMenu(const FString& Expected);
+	void ExpectFile(const FString& File, const FString& Expected);
+	void ExpectPicture(const FString& Likeness, const FString& Name);
 
 	/** Where a story's picture lies. */
-	FString PictureFile(const std::string& Name) const;
+	FString PictureFile(const FString& Name) const;
 
 	/** Prints the step, and puts it into the report. */
 	void Show(const FStoryStep& Step) const;
@@ -72,6 +62,6 @@ private:
 	FString StoryFolder;
 	FEditorDriver Driver;
 
-	/** What the last step that is no expectation logged; UTF-8. */
-	std::vector<std::string> Log;
+	/** What the last step that is no expectation logged. */
+	TArray<FString> Log;
 };
