@@ -18,19 +18,20 @@ class Lifecycle : public FEditorTest
 TEST_F(Lifecycle, StartBindsWorldsThenTheEngineLoopThenTheEditor)
 {
 	Driver.Start(Options);
-	EXPECT_THAT(TakeTrace(),
-		ElementsAre("load library Tonalith", "start module Tonalith", "bind FCoreDelegates::OnPostEngineInit",
-			"load library TonalithEditor", "start module TonalithEditor",
-			"bind FWorldDelegates::OnPreWorldInitialization", "start module AssetTools",
-			"register asset type TonalithObject", "bind FCoreDelegates::OnFEngineLoopInitComplete",
-			"register style TonalithStyle", "start module ToolMenus",
-			"extend menu LevelEditor.LevelViewportToolBar.View", "add sub-menu TNLDisplaySubMenu",
-			"make the editor engine", "start module LevelEditor", "register menu LevelEditor.LevelViewportToolBar.View",
-			"broadcast FWorldDelegates::OnPreWorldInitialization", "bind UWorld::OnFeatureLevelChanged",
-			"broadcast FCoreDelegates::OnPostEngineInit", "register view extension",
-			"broadcast FCoreDelegates::OnFEngineLoopInitComplete",
-			"bind UEditorEngine::OnLevelViewportClientListChanged", "bind FEditorDelegates::PreBeginPIE",
-			"bind FEditorDelegates::PostPIEStarted", "bind UGameViewportClient::CreatedDelegate"));
+	EXPECT_THAT(
+		TakeTrace(), ElementsAre("load library Tonalith", "start module Tonalith",
+						 "bind FCoreDelegates::OnPostEngineInit", "load library TonalithEditor",
+						 "start module TonalithEditor", "bind FWorldDelegates::OnPreWorldInitialization",
+						 "start module AssetTools", "register asset type TonalithObject",
+						 "bind FCoreDelegates::OnFEngineLoopInitComplete", "register style TonalithStyle",
+						 "start module ToolMenus", "extend menu LevelEditor.LevelViewportToolBar.View",
+						 "add sub-menu TNLDisplaySubMenu", "make the editor engine", "start module PropertyEditor",
+						 "start module LevelEditor", "register menu LevelEditor.LevelViewportToolBar.View",
+						 "broadcast FWorldDelegates::OnPreWorldInitialization", "bind UWorld::OnFeatureLevelChanged",
+						 "broadcast FCoreDelegates::OnPostEngineInit", "register view extension",
+						 "broadcast FCoreDelegates::OnFEngineLoopInitComplete",
+						 "bind UEditorEngine::OnLevelViewportClientListChanged", "bind FEditorDelegates::PreBeginPIE",
+						 "bind FEditorDelegates::PostPIEStarted", "bind UGameViewportClient::CreatedDelegate"));
 	Driver.Quit();
 }
 
@@ -42,8 +43,8 @@ TEST_F(Lifecycle, NormalExitFindsObjectsAndAssetToolsGone)
 	EXPECT_THAT(
 		TakeTrace(), ElementsAre("editor exit", "shut down module AssetTools", "broadcast FCoreDelegates::OnPreExit",
 						 "broadcast FCoreDelegates::OnExit", "purge objects", "shut down module LevelEditor",
-						 "shut down module TonalithEditor", "unregister style TonalithStyle",
-						 "unbind FWorldDelegates::OnPreWorldInitialization (1)",
+						 "shut down module PropertyEditor", "shut down module TonalithEditor",
+						 "unregister style TonalithStyle", "unbind FWorldDelegates::OnPreWorldInitialization (1)",
 						 "unbind FCoreDelegates::OnFEngineLoopInitComplete (1)", "shut down module ToolMenus",
 						 "shut down module Tonalith", "unbind FCoreDelegates::OnPostEngineInit (1)"));
 }

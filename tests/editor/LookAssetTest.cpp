@@ -1,19 +1,16 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // Looks as assets: their type, their factory, and what opening one does to the active viewport.
 #include "AssetToolsModule.h"
-#include "DisplayRecords.h"
 #include "Editor.h"
-#include "EditorTest.h"
 #include "Factories/Factory.h"
-#include "Host/Assets.h"
 #include "Host/ContentBrowser.h"
 #include "ImportOverride.h"
-#include "SLevelViewport.h"
+#include "LookTest.h"
 #include "Subsystems/AssetEditorSubsystem.h"
 #include "TonalithImageDesc.h"
-#include "UObject/UObjectGlobals.h"
 
 #include <filesystem>
+#include <limits>
 
 using testing::ElementsAre;
 using testing::ExitedWithCode;
@@ -21,8 +18,6 @@ using testing::HasSubstr;
 
 namespace
 {
-constexpr const TCHAR* Pane = TEXT("OnePane.Viewport 1.Viewport0");
-
 /** A viewport whose read-back is in the hands of the test. */
 class FFaultyViewport : public FSceneViewport
 {
@@ -44,39 +39,17 @@ private:
 };
 } // namespace
 
-class LookAsset : public FEditorTest
+class LookAsset : public FLookTest
 {
 protected:
-	LookAsset()
-	{
-		for (const TCHAR* Path : {TEXT("/Game/Looks/Warm.Warm"), TEXT("/Game/Looks/Cold.Cold")})
-		{
-			HostAssets::Write(Options.ProjectFolder, TEXT("/Script/Tonalith.TonalithObject"), Path);
-		}
-	}
-
 	void StartWithPane()
 	{
 		Driver.Start(Options);
-		Driver.OpenPane(Pane);
-		Record().bDisplay = true;
+		Driver.OpenPane(PaneA);
+		Record(PaneA).bDisplay = true;
 		TakeTrace();
 		TakeLog("LogTemp");
 	}
-
-	FTonalithDisplayConfiguration& Record()
-	{
-		return DisplayRecords().FindOrAddDisplayConfiguration(&Driver.Pane(Pane).GetLevelViewportClient());
-	}
-
-	static UTonalithObject* Look(const TCHAR* Path)
-	{
-		return static_cast<UTonalithObject*>(StaticLoadObject(UTonalithObject::StaticClass(), Path));
-	}
-
-	static UTonalithObject* Warm() { return Look(TEXT("/Game/Looks/Warm.Warm")); }
-
-	static UTonalithObject* Cold() { return Look(TEXT("/Game/Looks/Cold.Cold")); }
 
 	static TSharedPtr<IAssetTypeActions> Actions()
 	{
@@ -149,27 +122,24 @@ TEST_F(LookAsset, OpenedTogetherEachGetsAFrameWithoutTheLook)
 	StartWithPane();
 	for (const FIntPoint Size : {FIntPoint(641, 359), FIntPoint(1, 1), FIntPoint(7, 480)})
 	{
-		Driver.ResizePane(Pane, Size);
-		Record().bDisplay = true;
+		Driver.ResizePane(PaneA, Size);
+		Record(PaneA).bDisplay = true;
 		TakeTrace();
-		Driver.OpenAssets({TEXT("/Game/Looks/Warm.Warm"), TEXT("/Game/Looks/Cold.Cold")});
-		EXPECT_THAT(TakeTrace(), ElementsAre(testing::StartsWith("draw viewport"), "read pixels", "read pixels"));
-		EXPECT_TRUE(Record().bDisplay);
+		Driver.OpenAssets({WarmPath, ColdPath});
+		EXPECT_THAT(TakeTrace(), testing::IsSupersetOf({"read pixels", "read pixels"}));
+		EXPECT_TRUE(Record(PaneA).bDisplay);
 
 		const FPicture Chart = Driver.TakePicture();
 		ASSERT_EQ(Chart.Size, Size);
-		for (const UTonalithObject* Shown : {Warm(), Cold()})
+		for (const TCHAR* Shown : {TEXT("Warm"), TEXT("Cold")})
 		{
-			ASSERT_EQ(Shown->GetPictureSize(), Size);
-			ASSERT_EQ(Shown->GetPicture().Num(), Size.X * Size.Y * 4);
-			const uint8* Byte = Shown->GetPicture().GetData();
-			for (const FColor& Pixel : Chart.Pixels)
+			const FPicture Frame = Driver.Windows().Picture(Shown);
+			ASSERT_TRUE(IsSamePicture(Frame, Chart));
+			for (const FColor& Pixel : Frame.Pixels)
 			{
-				ASSERT_EQ(FColor(Byte[0], Byte[1], Byte[2], Byte[3]), FColor(Pixel.R, Pixel.G, Pixel.B, 255));
-				Byte += 4;
+				ASSERT_EQ(Pixel.A, 255);
 			}
 		}
-		EXPECT_NE(Warm()->GetPicture().GetData(), Cold()->GetPicture().GetData());
 	}
 	Driver.Quit();
 }
@@ -187,7 +157,7 @@ TEST_F(LookAsset, TheFlagIsOffFromTheDrawToTheLastLookAndThenAsBefore)
 		std::vector<bool> Shown;
 	} Client;
 	const TSharedRef<FSceneViewport> Viewport = MakeShared<FSceneViewport>(&Client);
-	Driver.Pane(Pane).StartPlayInEditorSession(Viewport);
+	Driver.Pane(PaneA).StartPlayInEditorSession(Viewport);
 	FTonalithDisplayConfiguration& Shown = DisplayRecords().FindOrAddDisplayConfiguration(&Client);
 	Shown = Configured(true, 0.25f, Warm());
 
@@ -203,7 +173,7 @@ TEST_F(LookAsset, TheFlagIsOffFromTheDrawToTheLastLookAndThenAsBefore)
 			Opened.push_back(Look);
 			Image = Given;
 		},
-		GetModuleHandleW(L"UnrealEditor-TonalithEditor.dll"));
+		EditorLibrary());
 	for (const bool bDisplay : {true, false})
 	{
 		Shown.bDisplay = bDisplay;
@@ -227,24 +197,24 @@ TEST_F(LookAsset, TheFlagIsOffFromTheDrawToTheLastLookAndThenAsBefore)
 	EXPECT_EQ(Image.Maximum, 1000.0f);
 	EXPECT_EQ(Image.Time, 0.0f);
 	EXPECT_EQ(Image.Flags, 0);
-	Driver.Pane(Pane).EndPlayInEditorSession();
+	Driver.Pane(PaneA).EndPlayInEditorSession();
 	Driver.Quit();
 }
 
 TEST_F(LookAsset, AFrameThatCannotBeReadOpensNothingAndSaysSo)
 {
 	StartWithPane();
-	FViewportClient* Client = &Driver.Pane(Pane).GetLevelViewportClient();
+	FViewportClient* Client = &Driver.Pane(PaneA).GetLevelViewportClient();
 	const auto Refuse = [&](const TSharedRef<FSceneViewport>& Viewport)
 	{
-		Driver.Pane(Pane).StartPlayInEditorSession(Viewport);
-		Driver.OpenAssets({TEXT("/Game/Looks/Warm.Warm"), TEXT("/Game/Looks/Cold.Cold")});
+		Driver.Pane(PaneA).StartPlayInEditorSession(Viewport);
+		Driver.OpenAssets({WarmPath, ColdPath});
 		EXPECT_THAT(TakeLog("LogTemp"),
 			ElementsAre("Warning: OpenAssetEditor: Warm is not opened, the viewport's pixels cannot be read",
 				"Warning: OpenAssetEditor: Cold is not opened, the viewport's pixels cannot be read"));
-		EXPECT_EQ(Warm()->GetPictureSize(), FIntPoint(0, 0));
-		EXPECT_TRUE(Record().bDisplay);
-		Driver.Pane(Pane).EndPlayInEditorSession();
+		EXPECT_TRUE(Driver.Windows().Titles().IsEmpty());
+		EXPECT_TRUE(Record(PaneA).bDisplay);
+		Driver.Pane(PaneA).EndPlayInEditorSession();
 	};
 	Refuse(MakeShared<FFaultyViewport>(Client, 0, false));
 	Refuse(MakeShared<FFaultyViewport>(Client, 320 * 180, false));
@@ -260,7 +230,7 @@ TEST_F(LookAsset, OpeningWithoutAPaneIsFatal)
 	EXPECT_EXIT(
 		{
 			Driver.Start(Options);
-			Driver.OpenAssets({TEXT("/Game/Looks/Warm.Warm")});
+			Driver.OpenAssets({WarmPath});
 		},
 		ExitedWithCode(3), HasSubstr("Assertion failed: CurrentViewport "));
 }
@@ -268,11 +238,11 @@ TEST_F(LookAsset, OpeningWithoutAPaneIsFatal)
 TEST_F(LookAsset, AContradictoryPictureIsRefused)
 {
 	Driver.Start(Options);
-	const uint8 Pixel[] = {1, 2, 3, 4, 5, 6, 7, 8};
+	const uint8 Pixels[] = {1, 2, 3, 4, 0, 0, 0, 0, 5, 6, 7, 8};
 	FTonalithAPI_ImageDesc Good;
-	Good.Pixels = Pixel;
-	Good.Width = Good.Height = 1;
-	Good.RowLength = 2;
+	Good.Pixels = Pixels;
+	Good.Width = 1;
+	Good.Height = Good.RowLength = 2;
 	const auto Refused = [&](auto Member, auto Value)
 	{
 		FTonalithAPI_ImageDesc Bad = Good;
@@ -285,8 +255,12 @@ TEST_F(LookAsset, AContradictoryPictureIsRefused)
 	Refused(&FTonalithAPI_ImageDesc::Width, 0);
 	Refused(&FTonalithAPI_ImageDesc::Width, 3);
 	Refused(&FTonalithAPI_ImageDesc::Height, -1);
-	EXPECT_TRUE(Cold()->GetPicture().IsEmpty());
+	Refused(&FTonalithAPI_ImageDesc::Height, std::numeric_limits<int32>::max());
+	EXPECT_TRUE(Driver.Windows().Titles().IsEmpty());
+	// What lies between the rows is not shown.
 	Cold()->DisplayUserInterface(Good);
-	EXPECT_EQ(Cold()->GetPicture(), TArray<uint8>({1, 2, 3, 4}));
+	const FPicture Shown = Driver.Windows().Picture(TEXT("Cold"));
+	EXPECT_EQ(Shown.Size, FIntPoint(1, 2));
+	EXPECT_EQ(Shown.Pixels, TArray<FColor>({FColor(1, 2, 3, 4), FColor(5, 6, 7, 8)}));
 	Driver.Quit();
 }

@@ -1,15 +1,10 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // The look's sub-menu in the "View" menu of a pane, clicked by the driver.
-#include "DisplayRecords.h"
 #include "Editor.h"
-#include "EditorTest.h"
-#include "Host/Assets.h"
 #include "Host/Trace.h"
 #include "ImportOverride.h"
-#include "Misc/Paths.h"
-#include "SLevelViewport.h"
+#include "LookTest.h"
 #include "ToolMenus.h"
-#include "UObject/UObjectGlobals.h"
 
 #include <psapi.h>
 
@@ -22,15 +17,7 @@ using testing::Not;
 
 namespace
 {
-constexpr const TCHAR* PaneA = TEXT("TwoPanesHoriz.Viewport 1.Viewport0");
-constexpr const TCHAR* PaneB = TEXT("TwoPanesHoriz.Viewport 1.Viewport1");
-constexpr const TCHAR* WarmPath = TEXT("/Game/Looks/Warm.Warm");
 const std::string ViewMenu = "LevelEditor.LevelViewportToolBar.View";
-
-HMODULE EditorLibrary()
-{
-	return LoadLibraryW(TEXT(EDITOR_TEST_PLUGINS) TEXT("/Tonalith/Binaries/Win64/UnrealEditor-TonalithEditor.dll"));
-}
 
 size_t PrivateBytes()
 {
@@ -40,17 +27,9 @@ size_t PrivateBytes()
 }
 } // namespace
 
-class LookMenu : public FEditorTest
+class LookMenu : public FLookTest
 {
 protected:
-	LookMenu()
-	{
-		for (const TCHAR* Path : {WarmPath, TEXT("/Game/Looks/Cold.Cold")})
-		{
-			HostAssets::Write(Options.ProjectFolder, TEXT("/Script/Tonalith.TonalithObject"), Path);
-		}
-	}
-
 	void Start()
 	{
 		Driver.Start(Options);
@@ -81,16 +60,6 @@ protected:
 	}
 
 	std::string Text() { return TCHAR_TO_UTF8(*Driver.Menus().Text()); }
-
-	const FTonalithDisplayConfiguration* Record(const TCHAR* Pane)
-	{
-		return DisplayRecords().GetDisplayConfiguration(&Driver.Pane(Pane).GetLevelViewportClient());
-	}
-
-	static UTonalithObject* Warm()
-	{
-		return static_cast<UTonalithObject*>(StaticLoadObject(UTonalithObject::StaticClass(), WarmPath));
-	}
 };
 
 TEST_F(LookMenu, ShowsKeysWithoutStringsAndTheLooksName)
@@ -108,8 +77,8 @@ TEST_F(LookMenu, ShowsKeysWithoutStringsAndTheLooksName)
 								 Contains("open menu " + ViewMenu + ".TNLDisplaySubMenu"),
 								 Contains("open menu TonalithWidget.DisplayConfiguration.TNLAssetSelection")));
 	Driver.Menus().Click(TEXT("Warm"));
-	EXPECT_EQ(Record(PaneA)->Look, Warm());
-	EXPECT_FALSE(Record(PaneA)->bDisplay);
+	EXPECT_EQ(Record(PaneA).Look, Warm());
+	EXPECT_FALSE(Record(PaneA).bDisplay);
 
 	// The chosen look is not offered again, but can be cleared.
 	OpenPicker();
@@ -123,19 +92,18 @@ TEST_F(LookMenu, ShowsKeysWithoutStringsAndTheLooksName)
 TEST_F(LookMenu, TogglingTwiceLeavesTheWeightAtOne)
 {
 	Start();
-	DisplayRecords().FindOrAddDisplayConfiguration(&Driver.Pane(PaneA).GetLevelViewportClient()) =
-		Configured(false, 0.25f, Warm());
+	Record(PaneA) = Configured(false, 0.25f, Warm());
 	OpenLookMenu();
 	Driver.Menus().ClickCheckBox(TEXT("EnableDisplay"));
 	EXPECT_THAT(Text(), HasSubstr("[x] STonalithWidget.EnableDisplay_Label"));
-	EXPECT_TRUE(Record(PaneA)->bDisplay);
-	EXPECT_EQ(Record(PaneA)->Weight, 1.0f);
-	DisplayRecords().FindOrAddDisplayConfiguration(&Driver.Pane(PaneA).GetLevelViewportClient()).Weight = 0.5f;
+	EXPECT_TRUE(Record(PaneA).bDisplay);
+	EXPECT_EQ(Record(PaneA).Weight, 1.0f);
+	Record(PaneA).Weight = 0.5f;
 	Driver.Menus().Click(TEXT("EnableDisplay"));
 	EXPECT_EQ(Text(), "");
-	EXPECT_FALSE(Record(PaneA)->bDisplay);
-	EXPECT_EQ(Record(PaneA)->Weight, 1.0f);
-	EXPECT_EQ(Record(PaneA)->Look, Warm());
+	EXPECT_FALSE(Record(PaneA).bDisplay);
+	EXPECT_EQ(Record(PaneA).Weight, 1.0f);
+	EXPECT_EQ(Record(PaneA).Look, Warm());
 	Driver.Quit();
 }
 
@@ -162,7 +130,7 @@ TEST_F(LookMenu, AChoiceClosesItsMenuBeforeItIsSent)
 		EXPECT_THAT(
 			Text(), testing::EndsWith("TonalithEditorModule.TNLDisplaySubMenu_Label >\nView\n  [x] Realtime\n"));
 	}
-	EXPECT_EQ(Record(PaneA)->Look, nullptr);
+	EXPECT_EQ(Record(PaneA).Look, nullptr);
 	Driver.Quit();
 }
 
@@ -171,20 +139,33 @@ TEST_F(LookMenu, AChoiceThatIsNoLookIsSentAsNone)
 	Start();
 	const auto ChooseAfter = [&](const TCHAR* Name, const auto& Change)
 	{
-		DisplayRecords().FindOrAddDisplayConfiguration(&Driver.Pane(PaneA).GetLevelViewportClient()) =
-			Configured(true, 0.5f, static_cast<UTonalithObject*>(HostAssets::GetAll()[0].GetAsset()));
+		Record(PaneA) = Configured(true, 0.5f, static_cast<UTonalithObject*>(HostAssets::GetAll()[0].GetAsset()));
 		OpenPicker();
 		Change();
 		Driver.Menus().Click(Name);
-		EXPECT_EQ(Record(PaneA)->Look, nullptr);
-		EXPECT_TRUE(Record(PaneA)->bDisplay);
-		EXPECT_EQ(Record(PaneA)->Weight, 0.5f);
+		EXPECT_EQ(Record(PaneA).Look, nullptr);
+		EXPECT_TRUE(Record(PaneA).bDisplay);
+		EXPECT_EQ(Record(PaneA).Weight, 0.5f);
 	};
 	// Another object took the asset's name; the asset is deleted.
 	ChooseAfter(TEXT("Warm"), []
 		{ NewObject<UObject>(CreatePackage(TEXT("/Game/Looks/Warm")), UPackage::StaticClass(), FName(TEXT("Warm"))); });
 	StaticFindObject(UObject::StaticClass(), WarmPath)->MarkAsGarbage();
 	ChooseAfter(TEXT("Warm"), [] { HostAssets::Delete(*Warm()); });
+	Driver.Quit();
+}
+
+TEST_F(LookMenu, ALookThatIsDeletedWhileItsMenuIsOpenIsNoLonger)
+{
+	Start();
+	Record(PaneA) = Configured(true, 0.5f, Warm());
+	OpenLookMenu();
+	EXPECT_THAT(Text(), HasSubstr("      Warm >\n"));
+	HostAssets::Delete(*Warm());
+	CollectGarbage();
+	EXPECT_THAT(Text(), HasSubstr("      STonalithWidget.TNLAssetSelection_Label >\n"));
+	Driver.Menus().ClickCheckBox(TEXT("EnableDisplay"));
+	EXPECT_EQ(Record(PaneA).Look, nullptr);
 	Driver.Quit();
 }
 
@@ -196,14 +177,13 @@ TEST_F(LookMenu, WhatIsClickedGoesToThePaneThatIsActiveThen)
 	OpenLookMenu();
 	Driver.ActivatePane(PaneB);
 	// Changes made elsewhere are not seen by the open menu.
-	DisplayRecords().FindOrAddDisplayConfiguration(&Driver.Pane(PaneB).GetLevelViewportClient()) =
-		Configured(true, 0.75f, nullptr);
+	Record(PaneB) = Configured(true, 0.75f, nullptr);
 	EXPECT_THAT(Text(), HasSubstr("[ ] STonalithWidget.EnableDisplay_Label"));
 	Driver.Menus().Click(TEXT("EnableDisplay"));
-	EXPECT_FALSE(Record(PaneA)->bDisplay);
-	EXPECT_TRUE(Record(PaneB)->bDisplay);
-	EXPECT_EQ(Record(PaneB)->Weight, 1.0f);
-	EXPECT_EQ(Record(PaneB)->Look, Warm());
+	EXPECT_FALSE(Record(PaneA).bDisplay);
+	EXPECT_TRUE(Record(PaneB).bDisplay);
+	EXPECT_EQ(Record(PaneB).Weight, 1.0f);
+	EXPECT_EQ(Record(PaneB).Look, Warm());
 	Driver.Quit();
 }
 
@@ -214,8 +194,10 @@ TEST_F(LookMenu, OpeningTracksThePaneAndMakesItsRecordButSavesNothing)
 	DisplayRecords().RemoveDisplayConfiguration(&Driver.Pane(PaneA).GetLevelViewportClient());
 	TakeTrace();
 	OpenLookMenu();
-	ASSERT_NE(Record(PaneA), nullptr);
-	EXPECT_FALSE(Record(PaneA)->bDisplay);
+	const FTonalithDisplayConfiguration* Made =
+		DisplayRecords().GetDisplayConfiguration(&Driver.Pane(PaneA).GetLevelViewportClient());
+	ASSERT_NE(Made, nullptr);
+	EXPECT_FALSE(Made->bDisplay);
 	EXPECT_THAT(TakeTrace(), Not(Contains(HasSubstr("save config"))));
 	Driver.Menus().CloseAll();
 	Driver.ClosePane(PaneA);

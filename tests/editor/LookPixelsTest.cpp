@@ -1,10 +1,9 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // Looks as pixels of the panes that show them.
-#include "DisplayRecords.h"
-#include "EditorTest.h"
-#include "Host/Assets.h"
-#include "SLevelViewport.h"
-#include "UObject/UObjectGlobals.h"
+#include "ImportOverride.h"
+#include "LookTest.h"
+#include "UObject/WeakObjectPtr.h"
+#include "ViewportClient.h"
 
 #include <limits>
 
@@ -13,9 +12,6 @@ using testing::Not;
 
 namespace
 {
-constexpr const TCHAR* PaneA = TEXT("TwoPanesHoriz.Viewport 1.Viewport0");
-constexpr const TCHAR* PaneB = TEXT("TwoPanesHoriz.Viewport 1.Viewport1");
-constexpr const TCHAR* LookPath = TEXT("/Game/Looks/Test.Test");
 constexpr FIntPoint Size{16, 8};
 
 /** Where the chart's patches and its ramp lie at that size. */
@@ -25,11 +21,9 @@ constexpr int32 White = 7 * 16 + 15;
 constexpr int32 Black = 7 * 16;
 } // namespace
 
-class LookPixels : public FEditorTest
+class LookPixels : public FLookTest
 {
 protected:
-	LookPixels() { HostAssets::Write(Options.ProjectFolder, TEXT("/Script/Tonalith.TonalithObject"), LookPath); }
-
 	void Start()
 	{
 		Driver.Start(Options);
@@ -40,17 +34,7 @@ protected:
 		}
 		Driver.ActivatePane(PaneA);
 		Plain = Driver.TakePicture();
-		Record(PaneA) = Configured(true, 1.0f, Look());
-	}
-
-	static UTonalithObject* Look()
-	{
-		return static_cast<UTonalithObject*>(StaticLoadObject(UTonalithObject::StaticClass(), LookPath));
-	}
-
-	FTonalithDisplayConfiguration& Record(const TCHAR* Pane)
-	{
-		return DisplayRecords().FindOrAddDisplayConfiguration(&Driver.Pane(Pane).GetLevelViewportClient());
+		Record(PaneA) = Configured(true, 1.0f, Warm());
 	}
 
 	bool ShowsPlain() { return IsSamePicture(Driver.TakePicture(), Plain); }
@@ -58,10 +42,10 @@ protected:
 	/** The next frame with one control at a value. */
 	FPicture With(FVector4 UTonalithObject::*Control, const FVector4& Value)
 	{
-		const FVector4 Before = Look()->*Control;
-		Look()->*Control = Value;
+		const FVector4 Before = Warm()->*Control;
+		Warm()->*Control = Value;
 		const FPicture Picture = Driver.TakePicture();
-		Look()->*Control = Before;
+		Warm()->*Control = Before;
 		return Picture;
 	}
 
@@ -111,7 +95,7 @@ TEST_F(LookPixels, EachControlGradesInLinearLight)
 TEST_F(LookPixels, TheWeightBlendsTheControls)
 {
 	Start();
-	Look()->Gain = FVector4(0.5, 1, 1, 1);
+	Warm()->Gain = FVector4(0.5, 1, 1, 1);
 	const FPicture Full = Driver.TakePicture();
 	// Half of the way from 1 to 0.5: 0.5395 * 0.75 = 0.4046.
 	Record(PaneA).Weight = 0.5f;
@@ -129,7 +113,7 @@ TEST_F(LookPixels, TheWeightBlendsTheControls)
 TEST_F(LookPixels, OnlyAPaneWithTheFlagAndALookShowsIt)
 {
 	Start();
-	Look()->Gain = FVector4(1, 1, 1, 0.5);
+	Warm()->Gain = FVector4(1, 1, 1, 0.5);
 	EXPECT_FALSE(ShowsPlain());
 	Driver.ActivatePane(PaneB);
 	EXPECT_TRUE(ShowsPlain());
@@ -139,9 +123,9 @@ TEST_F(LookPixels, OnlyAPaneWithTheFlagAndALookShowsIt)
 	Record(PaneA) = Configured(true, 1.0f, nullptr);
 	EXPECT_TRUE(ShowsPlain());
 	// A deleted look, shown in two panes.
-	Record(PaneA) = Record(PaneB) = Configured(true, 1.0f, Look());
+	Record(PaneA) = Record(PaneB) = Configured(true, 1.0f, Warm());
 	EXPECT_FALSE(ShowsPlain());
-	HostAssets::Delete(*Look());
+	HostAssets::Delete(*Warm());
 	EXPECT_TRUE(ShowsPlain());
 	CollectGarbage();
 	EXPECT_EQ(Record(PaneA).Look, nullptr);
@@ -172,16 +156,54 @@ TEST_F(LookPixels, BadValuesAreTakenAsTheNearestGoodOnes)
 TEST_F(LookPixels, AFrameForTheLooksWindowShowsNoLook)
 {
 	Start();
-	Look()->Gain = FVector4(1, 1, 1, 0.5);
+	Warm()->Gain = FVector4(1, 1, 1, 0.5);
 	EXPECT_FALSE(ShowsPlain());
-	Driver.OpenAssets({LookPath});
-	const uint8* Byte = Look()->GetPicture().GetData();
-	for (const FColor& Pixel : Plain.Pixels)
+	Driver.OpenAssets({WarmPath});
+	EXPECT_TRUE(IsSamePicture(Driver.Windows().Picture(TEXT("Warm")), Plain));
+	EXPECT_FALSE(ShowsPlain());
+	Driver.Quit();
+}
+
+TEST_F(LookPixels, LooksLiveAsLongAsARecordNamesThem)
+{
+	Start();
+	const FWeakObjectPtr Shown = NewObject<UTonalithObject>();
+	const FWeakObjectPtr Hidden = NewObject<UTonalithObject>();
+	const FWeakObjectPtr Unused = NewObject<UTonalithObject>();
+	Record(PaneA) = Configured(true, 1.0f, static_cast<UTonalithObject*>(Shown.Get()));
+	Record(PaneB) = Configured(false, 1.0f, static_cast<UTonalithObject*>(Hidden.Get()));
+	CollectGarbage();
+	EXPECT_EQ(Record(PaneA).Look, Shown.Get());
+	EXPECT_NE(Shown.Get(), nullptr);
+	EXPECT_EQ(Record(PaneB).Look, Hidden.Get());
+	EXPECT_NE(Hidden.Get(), nullptr);
+	EXPECT_EQ(Unused.Get(), nullptr);
+	EXPECT_TRUE(ShowsPlain());
+	Record(PaneA).Look = nullptr;
+	CollectGarbage();
+	EXPECT_EQ(Shown.Get(), nullptr);
+	Driver.Quit();
+}
+
+TEST_F(LookPixels, FramesAllocateNothingInTheModule)
+{
+	Start();
+	const HMODULE Library = GetModuleHandleW(TEXT("UnrealEditor-Tonalith.dll"));
+	const ImportOverride allocation(
+		"_Znwy", static_cast<void* (*)(size_t)>(nullptr), [](size_t Size) { return ::operator new(Size); }, Library);
+	for (const bool bDisplay : {true, false})
 	{
-		ASSERT_EQ(FColor(Byte[0], Byte[1], Byte[2], 0), Pixel);
-		Byte += 4;
+		Record(PaneA).bDisplay = bDisplay;
+		for (int Frame = 0; Frame < 10; ++Frame)
+		{
+			Driver.TakePicture();
+		}
+		EXPECT_EQ(allocation.calls(), 0);
 	}
-	EXPECT_FALSE(ShowsPlain());
+	FViewportClient Another;
+	DisplayRecords().FindOrAddDisplayConfiguration(&Another);
+	EXPECT_GT(allocation.calls(), 0) << "what the module allocates is counted";
+	DisplayRecords().RemoveDisplayConfiguration(&Another);
 	Driver.Quit();
 }
 

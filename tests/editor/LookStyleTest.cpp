@@ -1,9 +1,9 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // The icons of looks.
-#include "EditorTest.h"
 #include "Host/ContentBrowser.h"
 #include "ImportOverride.h"
 #include "Interfaces/IPluginManager.h"
+#include "LookTest.h"
 #include "Misc/Paths.h"
 #include "Styling/SlateStyleRegistry.h"
 #include "TonalithObject.h"
@@ -14,19 +14,13 @@ using testing::IsEmpty;
 
 namespace
 {
-/** The editor module's library, mapped before the session starts it. */
-HMODULE EditorLibrary()
-{
-	return LoadLibraryW(TEXT(EDITOR_TEST_PLUGINS) TEXT("/Tonalith/Binaries/Win64/UnrealEditor-TonalithEditor.dll"));
-}
-
 const FSlateBrush* Brush(const TCHAR* Kind)
 {
 	return HostContentBrowser::FindClassBrush(Kind, *UTonalithObject::StaticClass());
 }
 } // namespace
 
-class LookStyle : public FEditorTest
+class LookStyle : public FLookTest
 {
 };
 

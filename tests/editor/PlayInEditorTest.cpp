@@ -1,37 +1,26 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // What a play session takes along from the pane that it was launched from.
-#include "DisplayRecords.h"
 #include "Editor.h"
-#include "EditorTest.h"
-#include "SLevelViewport.h"
-#include "UObject/UObjectGlobals.h"
+#include "LookTest.h"
 
 namespace
 {
-const FString Left = TEXT("TwoPanesHoriz.Viewport 1.Viewport0");
-const FString Right = TEXT("TwoPanesHoriz.Viewport 1.Viewport1");
-
 FTonalithDisplayConfiguration& PlayRecord()
 {
 	return DisplayRecords().FindOrAddDisplayConfiguration(GEditor->GetPIEViewport()->GetClient());
 }
 } // namespace
 
-class PlayInEditor : public FEditorTest
+class PlayInEditor : public FLookTest
 {
 protected:
 	PlayInEditor()
 	{
 		Driver.Start(Options);
-		Driver.OpenPane(Left);
-		Driver.OpenPane(Right);
+		Driver.OpenPane(PaneA);
+		Driver.OpenPane(PaneB);
 		Look = NewObject<UTonalithObject>();
 		OtherLook = NewObject<UTonalithObject>();
-	}
-
-	FTonalithDisplayConfiguration& Record(const FString& Key)
-	{
-		return DisplayRecords().FindOrAddDisplayConfiguration(&Driver.Pane(Key).GetLevelViewportClient());
 	}
 
 	UTonalithObject* Look;
@@ -40,9 +29,9 @@ protected:
 
 TEST_F(PlayInEditor, TakesTheWholeRecordOfTheActivePane)
 {
-	Record(Left) = Configured(true, 0.25f, Look);
-	Record(Right) = Configured(true, 0.75f, OtherLook);
-	Driver.ActivatePane(Left);
+	Record(PaneA) = Configured(true, 0.25f, Look);
+	Record(PaneB) = Configured(true, 0.75f, OtherLook);
+	Driver.ActivatePane(PaneA);
 	Driver.PlayInPane();
 	EXPECT_TRUE(PlayRecord().bDisplay);
 	EXPECT_EQ(PlayRecord().Weight, 0.25f);
@@ -50,8 +39,8 @@ TEST_F(PlayInEditor, TakesTheWholeRecordOfTheActivePane)
 	Driver.EndPlay();
 
 	// A look that is switched off goes along switched off.
-	Record(Right).bDisplay = false;
-	Driver.ActivatePane(Right);
+	Record(PaneB).bDisplay = false;
+	Driver.ActivatePane(PaneB);
 	Driver.PlayInWindow();
 	EXPECT_FALSE(PlayRecord().bDisplay);
 	EXPECT_EQ(PlayRecord().Look.Get(), OtherLook);
@@ -60,7 +49,7 @@ TEST_F(PlayInEditor, TakesTheWholeRecordOfTheActivePane)
 
 TEST_F(PlayInEditor, WithoutALookThePlayRecordStaysAsItIs)
 {
-	Record(Right) = Configured(true, 0.25f, nullptr);
+	Record(PaneB) = Configured(true, 0.25f, nullptr);
 	Driver.PlayInPane();
 	const FTonalithDisplayConfiguration Default;
 	EXPECT_EQ(PlayRecord().bDisplay, Default.bDisplay);
@@ -70,15 +59,15 @@ TEST_F(PlayInEditor, WithoutALookThePlayRecordStaysAsItIs)
 
 TEST_F(PlayInEditor, CancelledSessionsLeaveNothingBehindThatTheNextWouldTake)
 {
-	Record(Left) = Configured(true, 1.0f, Look);
-	Record(Right) = Configured(true, 1.0f, OtherLook);
+	Record(PaneA) = Configured(true, 1.0f, Look);
+	Record(PaneB) = Configured(true, 1.0f, OtherLook);
 	for (const EPlayCancellation Cancellation :
 		{EPlayCancellation::MapSaveRefused, EPlayCancellation::NotAuthorized, EPlayCancellation::ErrorPrompt})
 	{
-		Driver.ActivatePane(Left);
+		Driver.ActivatePane(PaneA);
 		Driver.PlayCancelled(Cancellation);
 		EXPECT_EQ(GEditor->GetPIEViewport(), nullptr);
-		Driver.ActivatePane(Right);
+		Driver.ActivatePane(PaneB);
 		Driver.PlayInPane();
 		EXPECT_EQ(PlayRecord().Look.Get(), OtherLook);
 		Driver.EndPlay();

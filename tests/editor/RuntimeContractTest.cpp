@@ -1,7 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // What the runtime module promises to the modules beside it.
-#include "DisplayRecords.h"
-#include "EditorTest.h"
+#include "LookTest.h"
 #include "UnrealClient.h"
 
 #include <filesystem>

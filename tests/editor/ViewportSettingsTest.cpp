@@ -1,12 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // What the editor module remembers of each level viewport: when it saves, what the file holds, who gets it back.
-#include "DisplayRecords.h"
 #include "Editor.h"
-#include "EditorTest.h"
-#include "Host/Assets.h"
-#include "Misc/Paths.h"
-#include "SLevelViewport.h"
-#include "UObject/UObjectGlobals.h"
+#include "LookTest.h"
 #include "UObject/UnrealType.h"
 
 #include <filesystem>
@@ -18,10 +13,8 @@ using testing::IsEmpty;
 
 namespace
 {
-const FString A = TEXT("TwoPanesHoriz.Viewport 1.Viewport0");
-const FString B = TEXT("TwoPanesHoriz.Viewport 1.Viewport1");
 constexpr const char* Section = "[/Script/TonalithEditor.TonalithLevelViewportSettings]\r\n";
-constexpr const char* Warm = "\"/Script/Tonalith.TonalithObject'/Game/Looks/Warm.Warm'\"";
+constexpr const char* WarmText = "\"/Script/Tonalith.TonalithObject'/Game/Looks/Warm.Warm'\"";
 
 std::string Pair(const std::string& Key, const std::string& Record)
 {
@@ -33,15 +26,9 @@ const std::string KeyB = "TwoPanesHoriz.Viewport 1.Viewport1";
 const std::string Default = "bDisplay=False,Weight=1.000000,Look=None";
 } // namespace
 
-class ViewportSettings : public FEditorTest
+class ViewportSettings : public FLookTest
 {
 protected:
-	ViewportSettings()
-	{
-		HostAssets::Write(
-			Options.ProjectFolder, TEXT("/Script/Tonalith.TonalithObject"), TEXT("/Game/Looks/Warm.Warm"));
-	}
-
 	std::filesystem::path File() const
 	{
 		return std::filesystem::path(*Options.ProjectFolder) /
@@ -66,46 +53,35 @@ protected:
 		const FLines Trace = TakeTrace();
 		return std::count(Trace.begin(), Trace.end(), "save config of TonalithLevelViewportSettings");
 	}
-
-	FTonalithDisplayConfiguration& Record(const FString& Key)
-	{
-		return DisplayRecords().FindOrAddDisplayConfiguration(&Driver.Pane(Key).GetLevelViewportClient());
-	}
-
-	static UTonalithObject* Look()
-	{
-		return static_cast<UTonalithObject*>(
-			StaticLoadObject(UTonalithObject::StaticClass(), TEXT("/Game/Looks/Warm.Warm")));
-	}
 };
 
 TEST_F(ViewportSettings, AreSavedWhenAnIdentifierIsNewAndWhenAClientGoes)
 {
 	Driver.Start(Options);
-	Driver.OpenPane(A);
+	Driver.OpenPane(PaneA);
 	EXPECT_EQ(TakeSaves(), 0) << "its viewport was not there yet at its own event";
-	Driver.OpenPane(B);
+	Driver.OpenPane(PaneB);
 	EXPECT_EQ(TakeSaves(), 1);
 	EXPECT_EQ(ReadFile(), Section + Pair(KeyA, Default) + "\r\n");
 	EXPECT_THAT(TakeLog("LogTemp"), IsEmpty());
 
-	Record(A) = Configured(true, 0.5f, Look());
+	Record(PaneA) = Configured(true, 0.5f, Warm());
 	EXPECT_EQ(TakeSaves(), 0) << "changes wait for the client's end";
-	Driver.ClosePane(A);
+	Driver.ClosePane(PaneA);
 	EXPECT_EQ(TakeSaves(), 2) << "the gone client, then the other one's new identifier";
-	EXPECT_EQ(ReadFile(),
-		Section + Pair(KeyA, std::string("bDisplay=True,Weight=0.500000,Look=") + Warm) + Pair(KeyB, Default) + "\r\n");
+	EXPECT_EQ(ReadFile(), Section + Pair(KeyA, std::string("bDisplay=True,Weight=0.500000,Look=") + WarmText) +
+							  Pair(KeyB, Default) + "\r\n");
 	EXPECT_THAT(TakeLog("LogTemp"), ElementsAre("Warning: OnLevelViewportClientListChanged"));
 
-	Driver.OpenPane(A);
+	Driver.OpenPane(PaneA);
 	EXPECT_EQ(TakeSaves(), 0);
 	EXPECT_THAT(TakeLog("LogTemp"), ElementsAre("Warning: SetupViewportDisplaySettings"));
-	EXPECT_TRUE(Record(A).bDisplay);
-	EXPECT_EQ(Record(A).Weight, 0.5f);
-	EXPECT_EQ(Record(A).Look.Get(), Look());
+	EXPECT_TRUE(Record(PaneA).bDisplay);
+	EXPECT_EQ(Record(PaneA).Weight, 0.5f);
+	EXPECT_EQ(Record(PaneA).Look.Get(), Warm());
 
 	// Even when nothing changed.
-	Driver.ClosePane(A);
+	Driver.ClosePane(PaneA);
 	EXPECT_EQ(TakeSaves(), 1);
 	Driver.Quit();
 	EXPECT_EQ(TakeSaves(), 1);
@@ -114,12 +90,12 @@ TEST_F(ViewportSettings, AreSavedWhenAnIdentifierIsNewAndWhenAClientGoes)
 TEST_F(ViewportSettings, AClientWithoutRecordIsOnlyForgotten)
 {
 	Driver.Start(Options);
-	Driver.OpenPane(A);
-	Driver.OpenPane(B);
+	Driver.OpenPane(PaneA);
+	Driver.OpenPane(PaneB);
 	TakeSaves();
-	const FViewportClient* Gone = &Driver.Pane(A).GetLevelViewportClient();
+	const FViewportClient* Gone = &Driver.Pane(PaneA).GetLevelViewportClient();
 	EXPECT_TRUE(DisplayRecords().RemoveDisplayConfiguration(Gone));
-	Driver.ClosePane(A);
+	Driver.ClosePane(PaneA);
 	EXPECT_EQ(TakeSaves(), 1) << "the identifier of the other pane";
 	EXPECT_THAT(TakeLog("LogTemp"), IsEmpty());
 	EXPECT_EQ(DisplayRecords().GetDisplayConfiguration(Gone), nullptr);
@@ -128,9 +104,9 @@ TEST_F(ViewportSettings, AClientWithoutRecordIsOnlyForgotten)
 TEST_F(ViewportSettings, RecordsOfGoneClientsLeaveTheRegistry)
 {
 	Driver.Start(Options);
-	Driver.OpenPane(A);
-	Driver.OpenPane(B);
-	const TSharedPtr<SLevelViewport> Widget = StaticCastSharedRef<SLevelViewport>(Driver.Pane(A).AsShared());
+	Driver.OpenPane(PaneA);
+	Driver.OpenPane(PaneB);
+	const TSharedPtr<SLevelViewport> Widget = StaticCastSharedRef<SLevelViewport>(Driver.Pane(PaneA).AsShared());
 
 	// A camera preview shares its pane's widget and identifier; the later end wins. Each comes back at the same address.
 	std::optional<FLevelEditorViewportClient> Preview;
@@ -143,10 +119,25 @@ TEST_F(ViewportSettings, RecordsOfGoneClientsLeaveTheRegistry)
 		Preview.reset();
 		EXPECT_EQ(DisplayRecords().GetDisplayConfiguration(Address), nullptr);
 	}
-	Record(A).Weight = 0.125f;
-	Driver.ClosePane(A);
-	Driver.OpenPane(A);
-	EXPECT_EQ(Record(A).Weight, 0.75f) << "the pane still lives as long as its widget is held";
+	Record(PaneA).Weight = 0.125f;
+	Driver.ClosePane(PaneA);
+	Driver.OpenPane(PaneA);
+	EXPECT_EQ(Record(PaneA).Weight, 0.75f) << "the pane still lives as long as its widget is held";
+}
+
+TEST_F(ViewportSettings, ADeletedLookIsForgotten)
+{
+	Driver.Start(Options);
+	Driver.OpenPane(PaneA);
+	Driver.OpenPane(PaneB);
+	Record(PaneA) = Configured(true, 0.5f, Warm());
+	Driver.ClosePane(PaneA);
+	HostAssets::Delete(*Warm());
+	CollectGarbage();
+	Driver.OpenPane(PaneA);
+	EXPECT_EQ(Record(PaneA).Look.Get(), nullptr);
+	Driver.ClosePane(PaneB);
+	EXPECT_THAT(ReadFile(), testing::HasSubstr(Pair(KeyA, "bDisplay=True,Weight=0.500000,Look=None")));
 }
 
 TEST_F(ViewportSettings, ClientsThatAreNoPanesAreLeftAlone)
@@ -165,24 +156,24 @@ TEST_F(ViewportSettings, BadFilesLoseNothingThatCanBeRead)
 	WriteFile(
 		";METADATA=(Diff=true, UseCommands=true)\r\n[/Script/Other.Settings]\r\nKept=1\r\n+Kept=2\r\n\r\n" +
 		std::string(Section) +
-		Pair(KeyA, std::string("bDisplay=True,Strange=(A=1,B=\")\"),Weight=0.500000,Look=") + Warm) +
+		Pair(KeyA, std::string("bDisplay=True,Strange=(A=1,B=\")\"),Weight=0.500000,Look=") + WarmText) +
 		Pair(KeyA, "bDisplay=False") +
 		Pair(KeyB, "Weight=nonsense,Look=\"/Script/Tonalith.TonalithObject'/Game/Gone.Gone'\"") +
 		"ViewportsSettings=nonsense\r\n+ViewportsSettings=(ViewportIdentifier=\"Ignored\")\r\nOther=kept\r\n\r\n");
 	Driver.Start(Options);
-	Driver.OpenPane(A);
-	EXPECT_TRUE(Record(A).bDisplay) << "the first of two";
-	EXPECT_EQ(Record(A).Weight, 0.5f);
-	EXPECT_EQ(Record(A).Look.Get(), Look());
-	Driver.OpenPane(B);
-	EXPECT_EQ(Record(B).Weight, 1.0f);
-	EXPECT_EQ(Record(B).Look.Get(), nullptr);
+	Driver.OpenPane(PaneA);
+	EXPECT_TRUE(Record(PaneA).bDisplay) << "the first of two";
+	EXPECT_EQ(Record(PaneA).Weight, 0.5f);
+	EXPECT_EQ(Record(PaneA).Look.Get(), Warm());
+	Driver.OpenPane(PaneB);
+	EXPECT_EQ(Record(PaneB).Weight, 1.0f);
+	EXPECT_EQ(Record(PaneB).Look.Get(), nullptr);
 
-	Record(A).Weight = 0.25f;
-	Driver.ClosePane(A);
+	Record(PaneA).Weight = 0.25f;
+	Driver.ClosePane(PaneA);
 	EXPECT_EQ(ReadFile(),
 		";METADATA=(Diff=true, UseCommands=true)\r\n[/Script/Other.Settings]\r\nKept=1\r\n+Kept=2\r\n\r\n" +
-			std::string(Section) + Pair(KeyA, std::string("bDisplay=True,Weight=0.250000,Look=") + Warm) +
+			std::string(Section) + Pair(KeyA, std::string("bDisplay=True,Weight=0.250000,Look=") + WarmText) +
 			Pair(KeyA, "bDisplay=False,Weight=1.000000,Look=None") + Pair(KeyB, Default) + Pair("", Default) +
 			"+ViewportsSettings=(ViewportIdentifier=\"Ignored\")\r\nOther=kept\r\n\r\n");
 }

@@ -208,6 +208,13 @@ const FMenuDriver& FEditorDriver::Menus()
 	return MenuDriver;
 }
 
+const FWindowDriver& FEditorDriver::Windows()
+{
+	RequireStarted();
+	Loop.Tick();
+	return WindowDriver;
+}
+
 void FEditorDriver::UnloadModule(const FString& Name)
 {
 	RequireStarted();

@@ -6,6 +6,7 @@
 #include "LaunchEngineLoop.h"
 #include "MenuDriver.h"
 #include "Picture.h"
+#include "WindowDriver.h"
 
 #include <stdexcept>
 
@@ -75,6 +76,9 @@ public:
 	/** The menus, a frame after whatever was done before. */
 	const FMenuDriver& Menus();
 
+	/** The windows of plug-ins, likewise. */
+	const FWindowDriver& Windows();
+
 	/** Shuts a module down in the middle of the session. */
 	void UnloadModule(const FString& Name);
 
@@ -87,5 +91,6 @@ private:
 
 	FEngineLoop Loop;
 	FMenuDriver MenuDriver;
+	FWindowDriver WindowDriver;
 	bool bIsRunning = false;
 };

@@ -100,7 +100,7 @@ void FEngineLoop::MakeEditor() noexcept
 	HostTrace::Line(TEXT("make the editor engine"));
 	GEditor = new UEditorEngine();
 	GEngine = GEditor;
-	for (const TCHAR* Module : {TEXT("AssetTools"), TEXT("ToolMenus"), TEXT("LevelEditor")})
+	for (const TCHAR* Module : {TEXT("AssetTools"), TEXT("PropertyEditor"), TEXT("ToolMenus"), TEXT("LevelEditor")})
 	{
 		FModuleManager::Get().LoadModuleChecked(Module);
 	}

@@ -17,6 +17,10 @@ void FSlateApplication::Create()
 void FSlateApplication::Shutdown()
 {
 	Get().DismissAllMenus();
+	for (const TSharedRef<SWindow>& Window : Get().GetTopLevelWindows())
+	{
+		Get().RequestDestroyWindow(Window);
+	}
 	CurrentApplication.Reset();
 }
 
@@ -30,6 +34,21 @@ FSlateApplication& FSlateApplication::Get()
 	check(CurrentApplication.IsValid());
 	check(IsInGameThread());
 	return *CurrentApplication;
+}
+
+TSharedRef<SWindow> FSlateApplication::AddWindow(TSharedRef<SWindow> InSlateWindow, const bool)
+{
+	HostTrace::Line(TEXT("open window %s"), *InSlateWindow->GetTitle().ToString());
+	Windows.Add(InSlateWindow);
+	return InSlateWindow;
+}
+
+void FSlateApplication::RequestDestroyWindow(TSharedRef<SWindow> WindowToDestroy)
+{
+	if (Windows.Remove(WindowToDestroy) > 0)
+	{
+		HostTrace::Line(TEXT("close window %s"), *WindowToDestroy->GetTitle().ToString());
+	}
 }
 
 void FSlateApplication::PushMenu(FName Name, const TSharedRef<SWidget>& Parent, const FMakeMenuContent& MakeContent)

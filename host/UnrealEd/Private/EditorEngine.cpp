@@ -31,6 +31,27 @@ void UEditorEngine::RemoveLevelViewportClients(FLevelEditorViewportClient* Viewp
 	LevelViewportClientListChangedEvent.Broadcast();
 }
 
+void UEditorEngine::RedrawAllViewports(bool)
+{
+	bRedrawRequested = true;
+}
+
+void UEditorEngine::Tick()
+{
+	TickPlaySession();
+	if (bRedrawRequested)
+	{
+		bRedrawRequested = false;
+		for (const FEditorViewportClient* Client : AllViewportClients)
+		{
+			if (Client->Viewport)
+			{
+				Client->Viewport->Draw();
+			}
+		}
+	}
+}
+
 FViewport* UEditorEngine::GetActiveViewport()
 {
 	const FLevelEditorModule& LevelEditor = FModuleManager::GetModuleChecked<FLevelEditorModule>("LevelEditor");

@@ -29,7 +29,7 @@ void UEditorEngine::RequestEndPlayMap()
 	bEndPlayRequested = true;
 }
 
-void UEditorEngine::Tick()
+void UEditorEngine::TickPlaySession()
 {
 	if (bEndPlayRequested)
 	{

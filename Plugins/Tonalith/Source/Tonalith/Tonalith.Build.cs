@@ -10,5 +10,10 @@ public class Tonalith : ModuleRules
 		bUseUnity = false;
 
 		PublicDependencyModuleNames.AddRange(new string[] { "Core", "CoreUObject", "Engine" });
+		PrivateDependencyModuleNames.AddRange(new string[] { "InputCore", "Slate", "SlateCore" });
+		if (Target.bBuildEditor)
+		{
+			PrivateDependencyModuleNames.AddRange(new string[] { "EditorFramework", "PropertyEditor", "UnrealEd" });
+		}
 	}
 }

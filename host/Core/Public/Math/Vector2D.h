@@ -1,6 +1,15 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #pragma once
 
+struct FVector2D
+{
+	double X = 0.0;
+	double Y = 0.0;
+
+	constexpr FVector2D() = default;
+	constexpr FVector2D(double InX, double InY) : X(InX), Y(InY) {}
+};
+
 struct FVector2f
 {
 	float X = 0.0f;

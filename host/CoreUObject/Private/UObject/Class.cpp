@@ -17,7 +17,7 @@ template <class T>
 T* NewType(UClass* TypeClass, UObject* Outer, const TCHAR* Name)
 {
 	T* Type = static_cast<T*>(::operator new(sizeof(T)));
-	const FObjectInitializer Initializer(Type, TypeClass, Outer, FName(Name), RF_Public);
+	const FObjectInitializer Initializer(Type, TypeClass, Outer, FName(Name), RF_Public | RF_Standalone);
 	return new (Type) T();
 }
 

@@ -2,6 +2,7 @@
 #include "UObject/GCObject.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
+#include "UObject/UnrealType.h"
 
 #include "Modules/ModuleManager.h"
 
@@ -25,6 +26,7 @@ void DestroyWhere(Predicate Pred)
 	const auto Newest = [Pred] { return std::find_if(Objects.rbegin(), Objects.rend(), Pred); };
 	for (auto Found = Newest(); Found != Objects.rend(); Found = Newest())
 	{
+		(*Found)->BeginDestroy();
 		delete *Found;
 	}
 }
@@ -95,12 +97,42 @@ FGCObject::~FGCObject()
 	Referencers().Remove(this);
 }
 
+void FReferenceCollector::Reach(UObject* Object)
+{
+	if (Object && !Object->bIsReached)
+	{
+		Object->bIsReached = true;
+		Reach(Object->OuterPrivate);
+		AddReferencedObjects(*Object->GetClass(), Object);
+	}
+}
+
+void FReferenceCollector::AddReferencedObjects(const UStruct& Type, void* Value)
+{
+	for (const UStruct* Each = &Type; Each; Each = Each->SuperStruct)
+	{
+		for (const auto& Property : Each->GetOwnProperties())
+		{
+			Property->AddReferencedObjects(Value, *this);
+		}
+	}
+}
+
 void CollectGarbage()
 {
+	for (UObject* Object : Objects)
+	{
+		Object->bIsReached = false;
+	}
 	FReferenceCollector Collector;
 	for (FGCObject* Referencer : Referencers())
 	{
 		Referencer->AddReferencedObjects(Collector);
 	}
-	DestroyWhere([](const UObject* Object) { return Object->IsGarbage(); });
+	for (UObject* Object : Objects)
+	{
+		const bool bStays = !Object->ClassPrivate || Object->HasAnyFlags(RF_Standalone | RF_ClassDefaultObject);
+		Collector.Reach(bStays && !Object->IsGarbage() ? Object : nullptr);
+	}
+	DestroyWhere([](const UObject* Object) { return Object->IsGarbage() || !Object->bIsReached; });
 }

@@ -4,8 +4,10 @@
 
 #include "UObject/ObjectPtr.h"
 
-/** Goes over references before a collection. */
-class FReferenceCollector
+class UStruct;
+
+/** Goes over references before a collection: what it meets stays, and so does what that refers to. */
+class COREUOBJECT_API FReferenceCollector
 {
 public:
 	/** A reference to garbage becomes null. */
@@ -13,7 +15,14 @@ public:
 	void AddReferencedObject(TObjectPtr<T>& Object)
 	{
 		Object = IsValid(Object) ? Object : nullptr;
+		Reach(Object);
 	}
+
+	/** Of a reflected value, as its properties tell. */
+	void AddReferencedObjects(const UStruct& Type, void* Value);
+
+	/** Null is allowed. */
+	void Reach(UObject* Object);
 };
 
 /** Whoever derives from this is asked for its references at each collection. Game thread. */

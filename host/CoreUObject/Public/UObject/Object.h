@@ -8,6 +8,7 @@
 #include <memory>
 
 class FConfigCacheIni;
+struct FPropertyChangedEvent;
 extern CORE_API FConfigCacheIni* GConfig;
 
 /** What a constructor gets: the object under construction, with its place already settled. */
@@ -72,6 +73,12 @@ public:
 
 	bool HasAnyFlags(EObjectFlags FlagsToCheck) const { return (ObjectFlags & FlagsToCheck) != 0; }
 
+	/** The object's destruction begins; what overrides this calls it last. */
+	virtual void BeginDestroy() {}
+
+	/** A property was changed by a user. */
+	virtual void PostEditChangeProperty(FPropertyChangedEvent&) {}
+
 	/** Weak pointers give null from now on; the next collection destroys the object. */
 	void MarkAsGarbage() { bIsGarbage = true; }
 
@@ -86,12 +93,15 @@ public:
 
 private:
 	friend class FWeakObjectPtr;
+	friend class FReferenceCollector;
+	friend COREUOBJECT_API void CollectGarbage();
 
 	UClass* ClassPrivate = nullptr;
 	UObject* OuterPrivate = nullptr;
 	FName NamePrivate;
 	EObjectFlags ObjectFlags = RF_NoFlags;
 	bool bIsGarbage = false;
+	bool bIsReached = false;
 
 	/** Owns nothing; what weak pointers watch. */
 	const std::shared_ptr<UObject> Watched{this, [](UObject*) {}};
@@ -103,5 +113,8 @@ inline bool IsValid(const UObject* Test)
 	return Test && !Test->IsGarbage();
 }
 
-/** Destroys all objects that are marked as garbage. */
+/**
+ * Destroys the garbage, and what nobody refers to. What stays without a reference: default objects, objects flagged
+ * RF_Standalone, and those that the host makes without NewObject.
+ */
 COREUOBJECT_API void CollectGarbage();

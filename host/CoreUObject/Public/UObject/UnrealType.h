@@ -3,7 +3,7 @@
 #pragma once
 
 #include "UObject/Class.h"
-#include "UObject/ObjectPtr.h"
+#include "UObject/GCObject.h"
 
 /** Values as text. A text that is none for the type leaves the value alone. */
 namespace HostText
@@ -82,6 +82,34 @@ void ReadLines(const TArray<FString>& Lines, TArray<T>& OutValues)
 }
 } // namespace HostText
 
+/** Goes over the references in a value. */
+namespace HostReferences
+{
+template <class T>
+void Visit(TObjectPtr<T>& Value, FReferenceCollector& Collector)
+{
+	Collector.AddReferencedObject(Value);
+}
+
+template <class T>
+void Visit(T& Value, FReferenceCollector& Collector)
+{
+	if constexpr (requires { T::StaticStruct(); })
+	{
+		Collector.AddReferencedObjects(*T::StaticStruct(), &Value);
+	}
+}
+
+template <class T>
+void Visit(TArray<T>& Values, FReferenceCollector& Collector)
+{
+	for (T& Value : Values)
+	{
+		Visit(Value, Collector);
+	}
+}
+} // namespace HostReferences
+
 /** What is said about a property where it is declared. */
 struct FPropertyDeclaration
 {
@@ -106,6 +134,8 @@ public:
 		: Declaration(InDeclaration)
 		, Writer([](const void* Value) { return HostText::WriteLines(*static_cast<const T*>(Value)); })
 		, Reader([](const TArray<FString>& Lines, void* Value) { HostText::ReadLines(Lines, *static_cast<T*>(Value)); })
+		, Visitor([](void* Value, FReferenceCollector& Collector)
+			  { HostReferences::Visit(*static_cast<T*>(Value), Collector); })
 	{
 	}
 
@@ -129,8 +159,22 @@ public:
 		Reader(Lines, static_cast<char*>(Container) + Declaration.Offset);
 	}
 
+	void AddReferencedObjects(void* Container, FReferenceCollector& Collector) const
+	{
+		Visitor(static_cast<char*>(Container) + Declaration.Offset, Collector);
+	}
+
 private:
 	FPropertyDeclaration Declaration;
 	TArray<FString> (*Writer)(const void* Value);
 	void (*Reader)(const TArray<FString>& Lines, void* Value);
+	void (*Visitor)(void* Value, FReferenceCollector& Collector);
+};
+
+/** Tells which property a user changed. */
+struct FPropertyChangedEvent
+{
+	explicit FPropertyChangedEvent(FProperty* InProperty) : Property(InProperty) {}
+
+	FProperty* Property;
 };

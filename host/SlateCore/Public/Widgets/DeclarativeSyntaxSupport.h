@@ -26,6 +26,15 @@ public:                                                                         
 		return *this;                                                                                                  \
 	}
 
+/** What stands in brackets behind the arguments. */
+#define SLATE_DEFAULT_SLOT(DeclarationType, SlotName)                                                                  \
+	TSharedPtr<class SWidget> _##SlotName;                                                                             \
+	DeclarationType& operator[](const TSharedRef<class SWidget>& InChild)                                              \
+	{                                                                                                                  \
+		_##SlotName = InChild;                                                                                         \
+		return *this;                                                                                                  \
+	}
+
 /** A delegate. */
 #define SLATE_EVENT(DelegateName, EventName)                                                                           \
 	DelegateName _##EventName;                                                                                         \

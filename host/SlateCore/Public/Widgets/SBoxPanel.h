@@ -51,11 +51,20 @@ struct FVerticalBoxSlot : TSlot<FVerticalBoxSlot>
 
 struct FHorizontalBoxSlot : TSlot<FHorizontalBoxSlot>
 {
+	/** How much of the room that is left, in relation to the others. */
+	FHorizontalBoxSlot& FillWidth(float InShare)
+	{
+		Share = InShare;
+		return *this;
+	}
+
 	FHorizontalBoxSlot& AutoWidth()
 	{
 		bIsAutoSized = true;
 		return *this;
 	}
+
+	float Share = 1.0f;
 };
 
 /** From top to bottom. */

@@ -35,6 +35,9 @@ public:
 	/** The viewport that is played in, or null. */
 	UNREALED_API FViewport* GetPIEViewport();
 
+	/** Every viewport of the editor is drawn anew in the next tick. */
+	UNREALED_API void RedrawAllViewports(bool bInvalidateHitProxies = true);
+
 	/** Asks for a session; it begins at the next tick. */
 	UNREALED_API void RequestPlaySession(const FRequestPlaySessionParams& InParams);
 
@@ -50,6 +53,7 @@ public:
 	EPlayCancellation NextPlayCancellation = EPlayCancellation::None;
 
 private:
+	void TickPlaySession();
 	void StartPlaySession(const FRequestPlaySessionParams& Params);
 	void CreatePlayViewport(const FRequestPlaySessionParams& Params);
 
@@ -60,6 +64,7 @@ private:
 		TEXT("UEditorEngine::OnLevelViewportClientListChanged")};
 	TUniquePtr<FRequestPlaySessionParams> PlaySessionRequest;
 	bool bEndPlayRequested = false;
+	bool bRedrawRequested = false;
 	UWorld* PlayWorld = nullptr;
 	TSharedPtr<FSceneViewport> PlayViewport;
 	TWeakPtr<IAssetViewport> PlayPane;

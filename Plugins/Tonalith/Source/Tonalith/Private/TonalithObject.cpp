@@ -1,15 +1,25 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "TonalithObject.h"
 
+#include "Framework/Application/SlateApplication.h"
+#include "SLookWindow.h"
 #include "TonalithImageDesc.h"
+
+#if WITH_EDITOR
+#include "Editor.h"
+#include "UObject/UnrealType.h"
+#endif
+
+#include <limits>
 
 namespace
 {
-constexpr int32 BytesPerPixel = 4;
-
 bool IsConsistent(const FTonalithAPI_ImageDesc& Image)
 {
-	return Image.Version == 1 && Image.Pixels && Image.Width > 0 && Image.Height > 0 && Image.RowLength >= Image.Width;
+	// Its bytes are counted in 32 bits.
+	constexpr int32 MostPixels = std::numeric_limits<int32>::max() / 4;
+	return Image.Version == 1 && Image.Pixels && Image.Width > 0 && Image.Height > 0 &&
+		   Image.RowLength >= Image.Width && Image.Height <= MostPixels / Image.Width;
 }
 } // namespace
 
@@ -20,12 +30,38 @@ void UTonalithObject::DisplayUserInterface(FTonalithAPI_ImageDesc& Image)
 		UE_LOG(LogTemp, Warning, TEXT("DisplayUserInterface: the picture for %s is refused"), *GetName());
 		return;
 	}
-	const int32 RowSize = Image.Width * BytesPerPixel;
-	Picture.SetNumUninitialized(RowSize * Image.Height);
-	PictureSize = FIntPoint(Image.Width, Image.Height);
-	for (int32 Row = 0; Row < Image.Height; ++Row)
+	if (!FSlateApplication::IsInitialized())
 	{
-		FMemory::Memcpy(Picture.GetData() + Row * RowSize, Image.Pixels + Row * Image.RowLength * BytesPerPixel,
-			static_cast<size_t>(RowSize));
+		return;
+	}
+	TSharedPtr<SLookWindow> Shown = Window.Pin();
+	if (!Shown.IsValid())
+	{
+		Shown = SNew(SLookWindow).Look(this);
+		FSlateApplication::Get().AddWindow(Shown.ToSharedRef());
+		Window = Shown;
+	}
+	Shown->ShowPicture(Image);
+	Shown->BringToFront();
+}
+
+void UTonalithObject::BeginDestroy()
+{
+	if (const TSharedPtr<SLookWindow> Shown = Window.Pin())
+	{
+		FSlateApplication::Get().RequestDestroyWindow(Shown.ToSharedRef());
+	}
+	Super::BeginDestroy();
+}
+
+#if WITH_EDITOR
+void UTonalithObject::PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent)
+{
+	Super::PostEditChangeProperty(PropertyChangedEvent);
+	MarkPackageDirty();
+	if (GEditor)
+	{
+		GEditor->RedrawAllViewports();
 	}
 }
+#endif

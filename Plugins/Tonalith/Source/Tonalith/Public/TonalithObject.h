@@ -6,6 +6,7 @@
 
 #include "TonalithObject.generated.h"
 
+class SLookWindow;
 struct FTonalithAPI_ImageDesc;
 
 /**
@@ -44,19 +45,22 @@ public:
 	FVector4 Offset = FVector4(0.0, 0.0, 0.0, 0.0);
 
 	/**
-	 * Shows the look's user interface with a picture to judge the look by. A picture that its description contradicts is
-	 * refused with a warning in the log. Game thread.
+	 * Opens the look's window with a picture to judge the look by; a window that is open already comes to the front with
+	 * the new picture. A picture that its description contradicts is refused with a warning in the log. Nothing without a
+	 * user interface, as in commandlets. Game thread.
 	 * @param Image copied before the call returns
 	 */
 	TONALITH_API void DisplayUserInterface(FTonalithAPI_ImageDesc& Image);
 
-	/** The last picture: rows from top to bottom, pixels as red, green, blue, alpha; empty before the first. */
-	const TArray<uint8>& GetPicture() const { return Picture; }
+	/** Closes the window. */
+	void BeginDestroy() override;
 
-	/** In pixels. */
-	FIntPoint GetPictureSize() const { return PictureSize; }
+#if WITH_EDITOR
+	/** Shows the change in the viewports and has the asset saved. */
+	void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent) override;
+#endif
 
 private:
-	TArray<uint8> Picture;
-	FIntPoint PictureSize;
+	/** The application owns it for as long as it is open. */
+	TWeakPtr<SLookWindow> Window;
 };

@@ -1,7 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Widgets/SWidget.h"
+#include "Widgets/SWindow.h"
 
 DECLARE_DELEGATE_RetVal(TSharedRef<SWidget>, FMakeMenuContent);
 
@@ -19,12 +19,20 @@ class FSlateApplication
 public:
 	SLATE_API static void Create();
 
-	/** Closes the menus first. */
+	/** Closes the menus, then the windows. */
 	SLATE_API static void Shutdown();
 	SLATE_API static bool IsInitialized();
 
 	/** Fatal when there is none, or on another thread. */
 	SLATE_API static FSlateApplication& Get();
+
+	SLATE_API TSharedRef<SWindow> AddWindow(TSharedRef<SWindow> InSlateWindow, const bool bShowImmediately = true);
+
+	/** The window dies with the last reference to it. Nothing for a window that is closed already. */
+	SLATE_API void RequestDestroyWindow(TSharedRef<SWindow> WindowToDestroy);
+
+	/** In the order of their opening. */
+	const TArray<TSharedRef<SWindow>> GetTopLevelWindows() const { return Windows; }
 
 	/**
 	 * Opens a menu below a widget. Of the other menus only the one that the widget is in stays, and what that was opened
@@ -52,4 +60,5 @@ private:
 	void DismissDownTo(int32 Count);
 
 	TArray<FOpenMenu> OpenMenus;
+	TArray<TSharedRef<SWindow>> Windows;
 };

@@ -54,6 +54,16 @@ void STonalithWidget::Construct(const FArguments& InArgs)
 	// clang-format on
 }
 
+void STonalithWidget::AddReferencedObjects(FReferenceCollector& Collector)
+{
+	Collector.AddReferencedObject(DisplayConfiguration.Look);
+}
+
+FString STonalithWidget::GetReferencerName() const
+{
+	return TEXT("STonalithWidget");
+}
+
 UToolMenu* STonalithWidget::FindOrRegisterMenu() const
 {
 	UToolMenus* Menus = UToolMenus::Get();

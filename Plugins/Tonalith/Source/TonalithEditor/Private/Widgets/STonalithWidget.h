@@ -4,6 +4,7 @@
 
 #include "CoreMinimal.h"
 #include "TonalithDisplayConfiguration.h"
+#include "UObject/GCObject.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SCompoundWidget.h"
 
@@ -17,7 +18,9 @@ DECLARE_DELEGATE_OneParam(FOnDisplayConfigurationChanged, const FTonalithDisplay
  * Works on a copy of the viewport's display record and sends the whole copy after each change; changes made elsewhere
  * meanwhile are not seen. Lives as long as the menu is open.
  */
-class STonalithWidget : public SCompoundWidget
+class STonalithWidget
+	: public SCompoundWidget
+	, public FGCObject
 {
 public:
 	// clang-format off
@@ -31,6 +34,10 @@ public:
 	// clang-format on
 
 	void Construct(const FArguments& InArgs);
+
+	/** The copy's look: one that is deleted meanwhile becomes none. */
+	void AddReferencedObjects(FReferenceCollector& Collector) override;
+	FString GetReferencerName() const override;
 
 private:
 	UToolMenu* FindOrRegisterMenu() const;

@@ -1,0 +1,35 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// A row of a details view, with what a user can do with it.
+#pragma once
+
+#include "UObject/UnrealType.h"
+#include "UObject/WeakObjectPtr.h"
+#include "Widgets/DeclarativeSyntaxSupport.h"
+#include "Widgets/SWidget.h"
+
+class SPropertyRow : public SWidget
+{
+public:
+	SLATE_BEGIN_ARGS(SPropertyRow) : _Property(nullptr) {}
+	SLATE_ARGUMENT(FWeakObjectPtr, Object)
+	SLATE_ARGUMENT(FProperty*, Property)
+	SLATE_END_ARGS()
+
+	void Construct(const FArguments& InArgs) { Row = InArgs; }
+
+	FName GetName() const { return Row._Property->GetFName(); }
+
+	/** Types a value, written as in config files. Nothing when the object is gone. */
+	void Edit(const FString& Value)
+	{
+		if (UObject* Object = Row._Object.Get())
+		{
+			Row._Property->ReadLines({Value}, Object);
+			FPropertyChangedEvent Event(Row._Property);
+			Object->PostEditChangeProperty(Event);
+		}
+	}
+
+private:
+	FArguments Row;
+};

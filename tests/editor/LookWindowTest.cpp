@@ -1,0 +1,124 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// The windows of looks, used as a user would.
+#include "LookTest.h"
+#include "TonalithImageDesc.h"
+#include "UObject/Package.h"
+
+using testing::AllOf;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+class LookWindow : public FLookTest
+{
+protected:
+	void Start()
+	{
+		Driver.Start(Options);
+		for (const TCHAR* Pane : {PaneA, PaneB})
+		{
+			Driver.OpenPane(Pane);
+			Driver.ResizePane(Pane, FIntPoint(16, 8));
+		}
+		Driver.ActivatePane(PaneA);
+		TakeTrace();
+	}
+
+	FLines Titles()
+	{
+		FLines Titles;
+		for (const FString& Title : Driver.Windows().Titles())
+		{
+			Titles.push_back(TCHAR_TO_UTF8(*Title));
+		}
+		return Titles;
+	}
+};
+
+TEST_F(LookWindow, IsOneForEachLookAndComesToTheFrontWithTheNewPicture)
+{
+	Start();
+	Driver.OpenAssets({WarmPath, ColdPath});
+	EXPECT_THAT(TakeTrace(),
+		ElementsAre(StartsWith("draw viewport"), "read pixels", "open window Warm", "bring window Warm to front",
+			"read pixels", "open window Cold", "bring window Cold to front"));
+	const FPicture Before = Driver.Windows().Picture(TEXT("Warm"));
+	EXPECT_TRUE(IsSamePicture(Before, Driver.TakePicture()));
+
+	Driver.ResizePane(PaneA, FIntPoint(9, 5));
+	TakeTrace();
+	Driver.OpenAssets({WarmPath});
+	EXPECT_THAT(TakeTrace(), ElementsAre(StartsWith("draw viewport"), "read pixels", "bring window Warm to front"));
+	EXPECT_TRUE(IsSamePicture(Driver.Windows().Picture(TEXT("Warm")), Driver.TakePicture()));
+	EXPECT_TRUE(IsSamePicture(Driver.Windows().Picture(TEXT("Cold")), Before)) << "the other one keeps its own";
+
+	Driver.Windows().Close(TEXT("Warm"));
+	EXPECT_THAT(Titles(), ElementsAre("Cold"));
+	Driver.OpenAssets({WarmPath});
+	EXPECT_THAT(Titles(), ElementsAre("Cold", "Warm"));
+	Driver.Quit();
+	EXPECT_THAT(TakeTrace(), AllOf(Contains("close window Warm"), Contains("close window Cold")));
+}
+
+TEST_F(LookWindow, EditsShowInEveryViewportAndAreSaved)
+{
+	Start();
+	const FPicture Plain = Driver.TakePicture();
+	Record(PaneA) = Configured(true, 1.0f, Warm());
+	Driver.OpenAssets({WarmPath});
+	EXPECT_FALSE(Warm()->GetPackage()->IsDirty());
+	TakeTrace();
+	for (const TCHAR* Control : {TEXT("Saturation"), TEXT("Contrast"), TEXT("Gamma"), TEXT("Gain"), TEXT("Offset")})
+	{
+		Driver.Windows().EditProperty(TEXT("Warm"), Control, TEXT("(X=0.5,Y=0.5,Z=1.0,W=0.75)"));
+		EXPECT_EQ(TakeTrace(), FLines());
+		Driver.Windows();
+		EXPECT_THAT(TakeTrace(), ElementsAre(StartsWith("draw viewport"), StartsWith("draw viewport")));
+		EXPECT_FALSE(IsSamePicture(Driver.TakePicture(), Plain));
+		Driver.Windows().EditProperty(TEXT("Warm"), Control,
+			FString(Control).Equals(TEXT("Offset")) ? TEXT("(X=0,Y=0,Z=0,W=0)") : TEXT("(X=1,Y=1,Z=1,W=1)"));
+		EXPECT_TRUE(IsSamePicture(Driver.TakePicture(), Plain));
+		Driver.Windows();
+		TakeTrace();
+	}
+	EXPECT_THROW(Driver.Windows().EditProperty(TEXT("Warm"), TEXT("Window"), TEXT("1")), FDriverError);
+	EXPECT_TRUE(Warm()->GetPackage()->IsDirty());
+	Driver.Quit();
+	EXPECT_THAT(TakeTrace(),
+		AllOf(Contains("save asset /Game/Looks/Warm.Warm"), Not(Contains("save asset /Game/Looks/Cold.Cold"))));
+}
+
+TEST_F(LookWindow, ClosesWithItsLookAndOutlivesThePane)
+{
+	Start();
+	Record(PaneA) = Record(PaneB) = Configured(true, 1.0f, Warm());
+	Driver.OpenAssets({WarmPath, ColdPath});
+	const FPicture Picture = Driver.Windows().Picture(TEXT("Warm"));
+	Driver.ClosePane(PaneA);
+	EXPECT_TRUE(IsSamePicture(Driver.Windows().Picture(TEXT("Warm")), Picture));
+	Driver.Windows().EditProperty(TEXT("Warm"), TEXT("Gain"), TEXT("(X=0.5,Y=1,Z=1,W=1)"));
+	EXPECT_FALSE(IsSamePicture(Driver.TakePicture(), Picture));
+
+	HostAssets::Delete(*Warm());
+	EXPECT_THAT(Titles(), ElementsAre("", "Cold"));
+	CollectGarbage();
+	EXPECT_THAT(Titles(), ElementsAre("Cold"));
+	EXPECT_TRUE(IsSamePicture(Driver.TakePicture(), Picture));
+	Driver.ClosePane(PaneB);
+	Driver.Quit();
+}
+
+TEST_F(LookWindow, NeedsAUserInterface)
+{
+	Options.bIsCommandlet = true;
+	Driver.Start(Options);
+	const uint8 Pixel[4] = {};
+	FTonalithAPI_ImageDesc Image;
+	Image.Pixels = Pixel;
+	Image.Width = Image.Height = Image.RowLength = 1;
+	Warm()->DisplayUserInterface(Image);
+	EXPECT_THAT(TakeLog("LogTemp"), IsEmpty());
+	Driver.Quit();
+}

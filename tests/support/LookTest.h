@@ -1,0 +1,67 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// A test that runs one editor session with the plug-in: its registry, its library, two panes and two looks to use.
+#pragma once
+
+#include "EditorTest.h"
+#include "Host/Assets.h"
+#include "Modules/ModuleManager.h"
+#include "SLevelViewport.h"
+#include "TonalithDisplayManager.h"
+#include "TonalithModuleInterface.h"
+#include "UObject/UObjectGlobals.h"
+
+#include <windows.h>
+
+inline FTonalithDisplayConfiguration Configured(bool bDisplay, float Weight, UTonalithObject* Look)
+{
+	FTonalithDisplayConfiguration Configuration;
+	Configuration.bDisplay = bDisplay;
+	Configuration.Weight = Weight;
+	Configuration.Look = Look;
+	return Configuration;
+}
+
+/** The runtime module's registry, as the modules beside it reach it. */
+inline FTonalithDisplayManager& DisplayRecords()
+{
+	return FModuleManager::LoadModuleChecked<ITonalithModule>("Tonalith").GetDisplayManager();
+}
+
+class FLookTest : public FEditorTest
+{
+protected:
+	static constexpr const TCHAR* PaneA = TEXT("TwoPanesHoriz.Viewport 1.Viewport0");
+	static constexpr const TCHAR* PaneB = TEXT("TwoPanesHoriz.Viewport 1.Viewport1");
+	static constexpr const TCHAR* WarmPath = TEXT("/Game/Looks/Warm.Warm");
+	static constexpr const TCHAR* ColdPath = TEXT("/Game/Looks/Cold.Cold");
+
+	FLookTest()
+	{
+		for (const TCHAR* Path : {WarmPath, ColdPath})
+		{
+			HostAssets::Write(Options.ProjectFolder, TEXT("/Script/Tonalith.TonalithObject"), Path);
+		}
+	}
+
+	/** The record of a pane, made if there is none. */
+	FTonalithDisplayConfiguration& Record(const TCHAR* Pane)
+	{
+		return DisplayRecords().FindOrAddDisplayConfiguration(&Driver.Pane(Pane).GetLevelViewportClient());
+	}
+
+	static UTonalithObject* Warm() { return Look(WarmPath); }
+
+	static UTonalithObject* Cold() { return Look(ColdPath); }
+
+	/** The editor module's library, for replaced imports; mapped if the session has not started it yet. */
+	static HMODULE EditorLibrary()
+	{
+		return LoadLibraryW(TEXT(EDITOR_TEST_PLUGINS) TEXT("/Tonalith/Binaries/Win64/UnrealEditor-TonalithEditor.dll"));
+	}
+
+private:
+	static UTonalithObject* Look(const TCHAR* Path)
+	{
+		return static_cast<UTonalithObject*>(StaticLoadObject(UTonalithObject::StaticClass(), Path));
+	}
+};
