@@ -48,6 +48,11 @@ public:
 	TArray<FProbeEntry> Entries;
 
 	/** Not in the file. */
-	UPROPERTY()
+	UPROPERTY(EditAnywhere, Category = "Probe")
 	float Forgotten = 1.0f;
+
+	void PostEditChangeProperty(FPropertyChangedEvent&) override { Told = Forgotten; }
+
+	/** The value at the last change by a user. */
+	float Told = 0.0f;
 };
