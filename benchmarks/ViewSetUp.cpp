@@ -1,5 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // What each frame of a pane costs that shows a look, beside one that shows none: the view extensions asked and run.
+#include "EditorDriver.h"
 #include "Engine/Engine.h"
 #include "LevelEditorViewport.h"
 #include "Modules/ModuleManager.h"
@@ -10,8 +11,7 @@
 #include "TonalithDisplayManager.h"
 #include "TonalithModuleInterface.h"
 #include "TonalithObject.h"
-
-#include "EditorDriver.h"
+#include "UObject/UObjectGlobals.h"
 
 namespace
 {
