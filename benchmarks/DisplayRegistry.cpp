@@ -36,6 +36,10 @@ void registry(benchmark::State& state)
 	{
 		benchmark::DoNotOptimize(manager.GetDisplayConfiguration(&clients()[next++ % 64]));
 	}
+	for (const FViewportClient& client : clients())
+	{
+		manager.RemoveDisplayConfiguration(&client);
+	}
 }
 
 void hashMap(benchmark::State& state)

@@ -30,15 +30,6 @@ size_t PrivateBytes()
 class LookMenu : public FLookTest
 {
 protected:
-	void Start()
-	{
-		Driver.Start(Options);
-		Driver.OpenPane(PaneA);
-		Driver.OpenPane(PaneB);
-		Driver.ActivatePane(PaneA);
-		TakeTrace();
-	}
-
 	void OpenLookMenu()
 	{
 		Driver.Menus().OpenViewMenu();
@@ -64,7 +55,7 @@ protected:
 
 TEST_F(LookMenu, ShowsKeysWithoutStringsAndTheLooksName)
 {
-	Start();
+	StartWithPanes();
 	OpenPicker();
 	EXPECT_EQ(Text(), "TonalithEditorModule.ColorManagement_Label\n"
 					  "  TonalithEditorModule.TNLDisplaySubMenu_Label >\n"
@@ -91,7 +82,7 @@ TEST_F(LookMenu, ShowsKeysWithoutStringsAndTheLooksName)
 
 TEST_F(LookMenu, TogglingTwiceLeavesTheWeightAtOne)
 {
-	Start();
+	StartWithPanes();
 	Record(PaneA) = Configured(false, 0.25f, Warm());
 	OpenLookMenu();
 	Driver.Menus().ClickCheckBox(TEXT("EnableDisplay"));
@@ -109,7 +100,7 @@ TEST_F(LookMenu, TogglingTwiceLeavesTheWeightAtOne)
 
 TEST_F(LookMenu, AChoiceClosesItsMenuBeforeItIsSent)
 {
-	Start();
+	StartWithPanes();
 	const ImportOverride sending(
 		"_ZN23FTonalithDisplayManager29FindOrAddDisplayConfigurationEP15FViewportClient",
 		static_cast<FTonalithDisplayConfiguration& (*)(FTonalithDisplayManager*, FViewportClient*)>(nullptr),
@@ -136,7 +127,7 @@ TEST_F(LookMenu, AChoiceClosesItsMenuBeforeItIsSent)
 
 TEST_F(LookMenu, AChoiceThatIsNoLookIsSentAsNone)
 {
-	Start();
+	StartWithPanes();
 	const auto ChooseAfter = [&](const TCHAR* Name, const auto& Change)
 	{
 		Record(PaneA) = Configured(true, 0.5f, static_cast<UTonalithObject*>(HostAssets::GetAll()[0].GetAsset()));
@@ -157,7 +148,7 @@ TEST_F(LookMenu, AChoiceThatIsNoLookIsSentAsNone)
 
 TEST_F(LookMenu, ALookThatIsDeletedWhileItsMenuIsOpenIsNoLonger)
 {
-	Start();
+	StartWithPanes();
 	Record(PaneA) = Configured(true, 0.5f, Warm());
 	OpenLookMenu();
 	EXPECT_THAT(Text(), HasSubstr("      Warm >\n"));
@@ -171,7 +162,7 @@ TEST_F(LookMenu, ALookThatIsDeletedWhileItsMenuIsOpenIsNoLonger)
 
 TEST_F(LookMenu, WhatIsClickedGoesToThePaneThatIsActiveThen)
 {
-	Start();
+	StartWithPanes();
 	OpenPicker();
 	Driver.Menus().Click(TEXT("Warm"));
 	OpenLookMenu();
@@ -209,7 +200,7 @@ TEST_F(LookMenu, OpeningWhileAPanePlaysIsFatal)
 {
 	EXPECT_EXIT(
 		{
-			Start();
+			StartWithPanes();
 			Driver.PlayInPane();
 			OpenLookMenu();
 		},
@@ -223,12 +214,12 @@ TEST_F(LookMenu, AMissingSectionOrMenuIsFatal)
 		const ImportOverride section(
 			"_ZN9UToolMenu11FindSectionE5FName", static_cast<FToolMenuSection* (*)(UToolMenu*, FName)>(nullptr),
 			[](UToolMenu*, FName) -> FToolMenuSection* { return nullptr; }, EditorLibrary());
-		Start();
+		StartWithPanes();
 	};
 	EXPECT_EXIT(WithoutSection(), ExitedWithCode(3), HasSubstr("Assertion failed: Section "));
 	const auto WithoutMenu = [&]
 	{
-		Start();
+		StartWithPanes();
 		const ImportOverride menu(
 			"_ZN10UToolMenus12RegisterMenuE5FNameS0_13EMultiBoxTypeb",
 			static_cast<UToolMenu* (*)(UToolMenus*, FName, FName, EMultiBoxType, bool)>(nullptr),
@@ -240,7 +231,7 @@ TEST_F(LookMenu, AMissingSectionOrMenuIsFatal)
 
 TEST_F(LookMenu, GoesWithTheModuleButForTheWidgetsMenu)
 {
-	Start();
+	StartWithPanes();
 	OpenLookMenu();
 	Driver.Menus().CloseAll();
 	CollectGarbage();
@@ -266,7 +257,7 @@ TEST_F(LookMenu, JoinsASectionThatAnotherExtensionMade)
 			return Menu;
 		},
 		EditorLibrary());
-	Start();
+	StartWithPanes();
 	Driver.Menus().OpenViewMenu();
 	EXPECT_THAT(Text(), testing::StartsWith("Color Tools\n  TonalithEditorModule.TNLDisplaySubMenu_Label >\n"));
 	EXPECT_THAT(Text(), Not(HasSubstr("ColorManagement_Label")));
@@ -277,7 +268,7 @@ TEST_F(LookMenu, JoinsASectionThatAnotherExtensionMade)
 
 TEST_F(LookMenu, AThousandTimesGrowsNothing)
 {
-	Start();
+	StartWithPanes();
 	size_t AfterWarmUp = 0;
 	for (int Times = 0; Times < 1000; ++Times)
 	{

@@ -12,9 +12,7 @@ using testing::Not;
 
 namespace
 {
-constexpr FIntPoint Size{16, 8};
-
-/** Where the chart's patches and its ramp lie at that size. */
+/** Where the chart's patches and its ramp lie. */
 constexpr int32 Skin = 4 * 16 + 12;
 constexpr int32 Red = 4 * 16;
 constexpr int32 White = 7 * 16 + 15;
@@ -26,13 +24,7 @@ class LookPixels : public FLookTest
 protected:
 	void Start()
 	{
-		Driver.Start(Options);
-		for (const TCHAR* Pane : {PaneA, PaneB})
-		{
-			Driver.OpenPane(Pane);
-			Driver.ResizePane(Pane, Size);
-		}
-		Driver.ActivatePane(PaneA);
+		StartWithPanes();
 		Plain = Driver.TakePicture();
 		Record(PaneA) = Configured(true, 1.0f, Warm());
 	}

@@ -14,18 +14,6 @@ using testing::StartsWith;
 class LookWindow : public FLookTest
 {
 protected:
-	void Start()
-	{
-		Driver.Start(Options);
-		for (const TCHAR* Pane : {PaneA, PaneB})
-		{
-			Driver.OpenPane(Pane);
-			Driver.ResizePane(Pane, FIntPoint(16, 8));
-		}
-		Driver.ActivatePane(PaneA);
-		TakeTrace();
-	}
-
 	FLines Titles()
 	{
 		FLines Titles;
@@ -39,7 +27,7 @@ protected:
 
 TEST_F(LookWindow, IsOneForEachLookAndComesToTheFrontWithTheNewPicture)
 {
-	Start();
+	StartWithPanes();
 	Driver.OpenAssets({WarmPath, ColdPath});
 	EXPECT_THAT(TakeTrace(),
 		ElementsAre(StartsWith("draw viewport"), "read pixels", "open window Warm", "bring window Warm to front",
@@ -64,7 +52,7 @@ TEST_F(LookWindow, IsOneForEachLookAndComesToTheFrontWithTheNewPicture)
 
 TEST_F(LookWindow, EditsShowInEveryViewportAndAreSaved)
 {
-	Start();
+	StartWithPanes();
 	const FPicture Plain = Driver.TakePicture();
 	Record(PaneA) = Configured(true, 1.0f, Warm());
 	Driver.OpenAssets({WarmPath});
@@ -92,7 +80,7 @@ TEST_F(LookWindow, EditsShowInEveryViewportAndAreSaved)
 
 TEST_F(LookWindow, ClosesWithItsLookAndOutlivesThePane)
 {
-	Start();
+	StartWithPanes();
 	Record(PaneA) = Record(PaneB) = Configured(true, 1.0f, Warm());
 	Driver.OpenAssets({WarmPath, ColdPath});
 	const FPicture Picture = Driver.Windows().Picture(TEXT("Warm"));

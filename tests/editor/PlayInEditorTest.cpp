@@ -14,28 +14,18 @@ FTonalithDisplayConfiguration& PlayRecord()
 class PlayInEditor : public FLookTest
 {
 protected:
-	PlayInEditor()
-	{
-		Driver.Start(Options);
-		Driver.OpenPane(PaneA);
-		Driver.OpenPane(PaneB);
-		Look = NewObject<UTonalithObject>();
-		OtherLook = NewObject<UTonalithObject>();
-	}
-
-	UTonalithObject* Look;
-	UTonalithObject* OtherLook;
+	PlayInEditor() { StartWithPanes(); }
 };
 
 TEST_F(PlayInEditor, TakesTheWholeRecordOfTheActivePane)
 {
-	Record(PaneA) = Configured(true, 0.25f, Look);
-	Record(PaneB) = Configured(true, 0.75f, OtherLook);
+	Record(PaneA) = Configured(true, 0.25f, Warm());
+	Record(PaneB) = Configured(true, 0.75f, Cold());
 	Driver.ActivatePane(PaneA);
 	Driver.PlayInPane();
 	EXPECT_TRUE(PlayRecord().bDisplay);
 	EXPECT_EQ(PlayRecord().Weight, 0.25f);
-	EXPECT_EQ(PlayRecord().Look.Get(), Look);
+	EXPECT_EQ(PlayRecord().Look.Get(), Warm());
 	Driver.EndPlay();
 
 	// A look that is switched off goes along switched off.
@@ -43,13 +33,13 @@ TEST_F(PlayInEditor, TakesTheWholeRecordOfTheActivePane)
 	Driver.ActivatePane(PaneB);
 	Driver.PlayInWindow();
 	EXPECT_FALSE(PlayRecord().bDisplay);
-	EXPECT_EQ(PlayRecord().Look.Get(), OtherLook);
+	EXPECT_EQ(PlayRecord().Look.Get(), Cold());
 	Driver.EndPlay();
 }
 
 TEST_F(PlayInEditor, WithoutALookThePlayRecordStaysAsItIs)
 {
-	Record(PaneB) = Configured(true, 0.25f, nullptr);
+	Record(PaneA) = Configured(true, 0.25f, nullptr);
 	Driver.PlayInPane();
 	const FTonalithDisplayConfiguration Default;
 	EXPECT_EQ(PlayRecord().bDisplay, Default.bDisplay);
@@ -59,8 +49,8 @@ TEST_F(PlayInEditor, WithoutALookThePlayRecordStaysAsItIs)
 
 TEST_F(PlayInEditor, CancelledSessionsLeaveNothingBehindThatTheNextWouldTake)
 {
-	Record(PaneA) = Configured(true, 1.0f, Look);
-	Record(PaneB) = Configured(true, 1.0f, OtherLook);
+	Record(PaneA) = Configured(true, 1.0f, Warm());
+	Record(PaneB) = Configured(true, 1.0f, Cold());
 	for (const EPlayCancellation Cancellation :
 		{EPlayCancellation::MapSaveRefused, EPlayCancellation::NotAuthorized, EPlayCancellation::ErrorPrompt})
 	{
@@ -69,7 +59,7 @@ TEST_F(PlayInEditor, CancelledSessionsLeaveNothingBehindThatTheNextWouldTake)
 		EXPECT_EQ(GEditor->GetPIEViewport(), nullptr);
 		Driver.ActivatePane(PaneB);
 		Driver.PlayInPane();
-		EXPECT_EQ(PlayRecord().Look.Get(), OtherLook);
+		EXPECT_EQ(PlayRecord().Look.Get(), Cold());
 		Driver.EndPlay();
 	}
 }

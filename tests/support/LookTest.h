@@ -32,6 +32,7 @@ class FLookTest : public FEditorTest
 protected:
 	static constexpr const TCHAR* PaneA = TEXT("TwoPanesHoriz.Viewport 1.Viewport0");
 	static constexpr const TCHAR* PaneB = TEXT("TwoPanesHoriz.Viewport 1.Viewport1");
+	static constexpr FIntPoint PaneSize{16, 8};
 	static constexpr const TCHAR* WarmPath = TEXT("/Game/Looks/Warm.Warm");
 	static constexpr const TCHAR* ColdPath = TEXT("/Game/Looks/Cold.Cold");
 
@@ -41,6 +42,19 @@ protected:
 		{
 			HostAssets::Write(Options.ProjectFolder, TEXT("/Script/Tonalith.TonalithObject"), Path);
 		}
+	}
+
+	/** The first pane is the active one; the trace begins here. */
+	void StartWithPanes()
+	{
+		Driver.Start(Options);
+		for (const TCHAR* Pane : {PaneA, PaneB})
+		{
+			Driver.OpenPane(Pane);
+			Driver.ResizePane(Pane, PaneSize);
+		}
+		Driver.ActivatePane(PaneA);
+		TakeTrace();
 	}
 
 	/** The record of a pane, made if there is none. */

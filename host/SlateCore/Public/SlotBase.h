@@ -4,7 +4,6 @@
 
 #include "CoreMinimal.h"
 #include "Layout/Margin.h"
-#include "Types/SlateEnums.h"
 
 class SWidget;
 
@@ -15,8 +14,6 @@ struct FSlotBase
 	TSharedPtr<SWidget> Widget;
 
 	FMargin SlotPadding;
-	EHorizontalAlignment HAlignment = HAlign_Fill;
-	EVerticalAlignment VAlignment = VAlign_Fill;
 
 	/** Takes as much room as its widget needs; otherwise an equal share of what is left. */
 	bool bIsAutoSized = false;
@@ -26,29 +23,10 @@ struct FSlotBase
 template <typename SlotType>
 struct TSlot : FSlotBase
 {
-	SlotType& HAlign(EHorizontalAlignment InHAlignment)
-	{
-		HAlignment = InHAlignment;
-		return Me();
-	}
-
-	SlotType& VAlign(EVerticalAlignment InVAlignment)
-	{
-		VAlignment = InVAlignment;
-		return Me();
-	}
-
-	SlotType& Padding(const FMargin& InPadding)
-	{
-		SlotPadding = InPadding;
-		return Me();
-	}
-
-	SlotType& Padding(float Horizontal, float Vertical) { return Padding(FMargin(Horizontal, Vertical)); }
-
 	SlotType& Padding(float Left, float Top, float Right, float Bottom)
 	{
-		return Padding(FMargin(Left, Top, Right, Bottom));
+		SlotPadding = FMargin(Left, Top, Right, Bottom);
+		return Me();
 	}
 
 	SlotType& operator[](const TSharedRef<SWidget>& InChildWidget)

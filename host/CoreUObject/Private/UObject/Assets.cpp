@@ -7,7 +7,6 @@
 #include "ObjectConfig.h"
 #include "UObject/UObjectGlobals.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <map>
 

@@ -5,8 +5,6 @@
 struct FMargin
 {
 	FMargin() = default;
-	FMargin(float UniformMargin) : FMargin(UniformMargin, UniformMargin) {}
-	FMargin(float Horizontal, float Vertical) : FMargin(Horizontal, Vertical, Horizontal, Vertical) {}
 	FMargin(float InLeft, float InTop, float InRight, float InBottom)
 		: Left(InLeft), Top(InTop), Right(InRight), Bottom(InBottom)
 	{

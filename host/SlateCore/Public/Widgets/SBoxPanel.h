@@ -58,12 +58,6 @@ struct FHorizontalBoxSlot : TSlot<FHorizontalBoxSlot>
 		return *this;
 	}
 
-	FHorizontalBoxSlot& AutoWidth()
-	{
-		bIsAutoSized = true;
-		return *this;
-	}
-
 	float Share = 1.0f;
 };
 

@@ -60,7 +60,7 @@ public:
 			+ SVerticalBox::Slot().AutoHeight().Padding(0.0f, 0.0f, 4.0f, 0.0f)
 			[
 				SNew(SHorizontalBox)
-				+ SHorizontalBox::Slot().AutoWidth().HAlign(HAlign_Left).VAlign(VAlign_Top)
+				+ SHorizontalBox::Slot()
 				[
 					MenuWidget.ToSharedRef()
 				]
