@@ -8,6 +8,8 @@
 
 #include <cstdio>
 #include <filesystem>
+#include <functional>
+#include <map>
 #include <windows.h>
 
 namespace
@@ -42,36 +44,23 @@ FCommandLine Parse(int Count, wchar_t** Arguments)
 	FCommandLine Result;
 	Result.Options.ProjectFolder = (Bin / L"../session").generic_wstring().c_str();
 	Result.Options.PluginFolders.Add((Bin / L"../stage").generic_wstring().c_str());
+	const std::map<std::wstring, std::function<void(const std::wstring&)>> Setters{
+		{L"-story", [&](const std::wstring& Value) { Result.Story = TCHAR_TO_UTF8(Value.c_str()); }},
+		{L"-project", [&](const std::wstring& Value) { Result.Options.ProjectFolder = Value.c_str(); }},
+		{L"-plugins", [&](const std::wstring& Value) { Result.Options.PluginFolders = SplitFolders(Value); }},
+		{L"-report", [&](const std::wstring& Value) { Result.ReportFolder = Value.c_str(); }},
+		{L"-session", [&](const std::wstring& Value) { Result.Session = std::stoi(Value); }},
+	};
 	for (int Index = 1; Index < Count; ++Index)
 	{
 		const std::wstring Argument = Arguments[Index];
 		const size_t Split = std::min(Argument.find(L'='), Argument.size());
-		const std::wstring Key = Argument.substr(0, Split);
-		const std::wstring Value = Argument.substr(std::min(Split + 1, Argument.size()));
-		if (Key == L"-story")
-		{
-			Result.Story = TCHAR_TO_UTF8(Value.c_str());
-		}
-		else if (Key == L"-project")
-		{
-			Result.Options.ProjectFolder = Value.c_str();
-		}
-		else if (Key == L"-plugins")
-		{
-			Result.Options.PluginFolders = SplitFolders(Value);
-		}
-		else if (Key == L"-report")
-		{
-			Result.ReportFolder = Value.c_str();
-		}
-		else if (Key == L"-session")
-		{
-			Result.Session = std::stoi(Value);
-		}
-		else
+		const auto Setter = Setters.find(Argument.substr(0, Split));
+		if (Setter == Setters.end())
 		{
 			throw FStoryError(std::string("unknown argument ") + TCHAR_TO_UTF8(Argument.c_str()));
 		}
+		Setter->second(Argument.substr(std::min(Split + 1, Argument.size())));
 	}
 	if (Result.Story.empty())
 	{
