@@ -53,9 +53,9 @@ TArray<FString> FWindowDriver::Titles() const
 
 FPicture FWindowDriver::Picture(const FString& Title) const
 {
-	const SImage& Image =
-		FindWidget<SImage>(Title, TEXT("picture"), [](const SImage& Each) { return Each.GetImage() != nullptr; });
-	const auto& Brush = static_cast<const FSlateDynamicImageBrush&>(*Image.GetImage());
+	const auto BrushOf = [](const SImage& Image)
+	{ return dynamic_cast<const FSlateDynamicImageBrush*>(Image.GetImage()); };
+	const FSlateDynamicImageBrush& Brush = *BrushOf(FindWidget<SImage>(Title, TEXT("picture"), BrushOf));
 	FPicture Picture{FIntPoint(static_cast<int32>(Brush.ImageSize.X), static_cast<int32>(Brush.ImageSize.Y)), {}};
 	const TArray<uint8>& Bytes = Brush.ImageData;
 	for (int32 Byte = 0; Byte < Bytes.Num(); Byte += 4)
