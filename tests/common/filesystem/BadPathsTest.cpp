@@ -59,15 +59,4 @@ TEST(BadPaths, GiveTheDocumentedResults)
 		EXPECT_EQ(Kiln::retinaVariantName(path, out), !path.empty());
 	}
 }
-
-TEST(BadPaths, OfSeparatorsNameTheRootOrNothing)
-{
-	for (const std::string& path : {std::string("/"), std::string("\\/\\"), std::string(32'000, '/')})
-	{
-		EXPECT_EQ(Kiln::fileSize(path), 0u);
-		EXPECT_EQ(Kiln::parentOf(path), path);
-		EXPECT_FALSE(Kiln::FileActionHelper::moveToRecycleBin(path));
-		EXPECT_LT(Kiln::ejectDrive(path), 0);
-	}
-}
 } // namespace

@@ -1,8 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "ImportOverride.h"
+#include "Failing.h"
 #include <algorithm>
 #include <kiln/Drives.h>
-#include <map>
 #include <vector>
 #include <winioctl.h>
 
@@ -34,87 +33,63 @@ TEST(Drives, NumberRootAndDevice)
 	}
 }
 
-/** A device that fails each control code so many times, and keeps what was asked of it. */
-struct FakeDevice
+TEST(EjectDrive, StepsEndAtTheFirstThatFailsAndTheLockIsTriedTwentyTimes)
 {
-	std::map<DWORD, int> failures;
-	std::vector<DWORD> asked = {};
-	std::vector<DWORD> slept = {};
-	std::wstring opened = {};
-	HANDLE handle = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-
-	/** @return the result of ejectDrive */
-	int eject(const std::string& path)
+	constexpr DWORD lock = FSCTL_LOCK_VOLUME;
+	constexpr DWORD dismount = FSCTL_DISMOUNT_VOLUME;
+	constexpr DWORD allow = IOCTL_STORAGE_MEDIA_REMOVAL;
+	constexpr DWORD eject = IOCTL_STORAGE_EJECT_MEDIA;
+	using Steps = std::vector<DWORD>;
+	struct Row
 	{
+		std::size_t failedLocks;
+		DWORD failing;
+		int result;
+		Steps locked;
+	};
+	const Row rows[] = {
+		{0, 0, 1, {dismount, allow, eject}},
+		{0, eject, 1, {dismount, allow, eject}},
+		{0, allow, 1, {dismount, allow}},
+		{0, dismount, 0, {dismount}},
+		{1, 0, 1, {dismount, allow, eject}},
+		{19, 0, 1, {dismount, allow, eject}},
+		{20, 0, 0, {}},
+		{1000, 0, 0, {}},
+	};
+	for (const Row& row : rows)
+	{
+		SCOPED_TRACE(std::to_string(row.failedLocks) + " " + std::to_string(row.failing));
+		const HANDLE handle = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+		Steps asked;
+		Steps slept;
 		const ImportOverride open("CreateFileW", &CreateFileW,
-			[&](const wchar_t* name, DWORD access, DWORD share, SECURITY_ATTRIBUTES*, DWORD creation, DWORD, HANDLE)
+			[&](const wchar_t* name, DWORD access, DWORD share, SECURITY_ATTRIBUTES*, DWORD creation, auto...)
 			{
-				opened = name;
+				EXPECT_STREQ(name, L"\\\\.\\C:");
 				EXPECT_EQ(access, GENERIC_READ);
 				EXPECT_EQ(share, static_cast<DWORD>(FILE_SHARE_READ | FILE_SHARE_WRITE));
 				EXPECT_EQ(creation, static_cast<DWORD>(OPEN_EXISTING));
 				return handle;
 			});
 		const ImportOverride control("DeviceIoControl", &DeviceIoControl,
-			[&](HANDLE device, DWORD code, void* input, DWORD size, void*, DWORD, DWORD*, OVERLAPPED*) -> BOOL
+			[&](HANDLE device, DWORD code, void* input, DWORD size, auto...) -> BOOL
 			{
 				EXPECT_EQ(device, handle);
-				const bool removal = code == IOCTL_STORAGE_MEDIA_REMOVAL;
-				EXPECT_EQ(size, removal ? 1u : 0u);
-				EXPECT_TRUE(!removal || *static_cast<const unsigned char*>(input) == 0);
+				EXPECT_EQ(size, code == allow ? 1u : 0u);
+				EXPECT_TRUE(code != allow || *static_cast<const unsigned char*>(input) == 0);
 				asked.push_back(code);
-				return --failures[code] < 0;
+				return code == lock ? asked.size() > row.failedLocks : code != row.failing;
 			});
-		return Kiln::ejectDrive(path);
-	}
-
-	bool isClosed() const
-	{
-		DWORD flags = 0;
-		return !GetHandleInformation(handle, &flags);
-	}
-};
-
-TEST(EjectDrive, StepsEndAtTheFirstThatFails)
-{
-	constexpr DWORD lock = FSCTL_LOCK_VOLUME;
-	constexpr DWORD dismount = FSCTL_DISMOUNT_VOLUME;
-	constexpr DWORD allow = IOCTL_STORAGE_MEDIA_REMOVAL;
-	constexpr DWORD eject = IOCTL_STORAGE_EJECT_MEDIA;
-	struct Row
-	{
-		std::map<DWORD, int> failures;
-		int result;
-		std::vector<DWORD> asked;
-	};
-	const Row rows[] = {
-		{{}, 1, {lock, dismount, allow, eject}},
-		{{{eject, 1}}, 1, {lock, dismount, allow, eject}},
-		{{{allow, 1}}, 1, {lock, dismount, allow}},
-		{{{dismount, 1}}, 0, {lock, dismount}},
-	};
-	for (const Row& row : rows)
-	{
-		FakeDevice device{row.failures};
-		EXPECT_EQ(device.eject("c:/\xC3\xBC"), row.result);
-		EXPECT_EQ(device.asked, row.asked);
-		EXPECT_EQ(device.opened, L"\\\\.\\C:");
-		EXPECT_TRUE(device.isClosed());
-	}
-}
-
-TEST(EjectDrive, TriesTwentyTimesHalfASecondApart)
-{
-	for (const int failures : {1, 19, 20, 1000})
-	{
-		FakeDevice device{{{FSCTL_LOCK_VOLUME, failures}}};
-		const ImportOverride sleep("Sleep", &Sleep, [&](DWORD milliseconds) { device.slept.push_back(milliseconds); });
-		const bool locked = failures < 20;
-		EXPECT_EQ(device.eject("C:"), locked ? 1 : 0);
-		EXPECT_EQ(
-			std::count(device.asked.begin(), device.asked.end(), DWORD{FSCTL_LOCK_VOLUME}), locked ? failures + 1 : 20);
-		EXPECT_EQ(device.slept, std::vector<DWORD>(locked ? static_cast<std::size_t>(failures) : 19, 500));
-		EXPECT_TRUE(device.isClosed());
+		ImportOverride sleep("Sleep", &Sleep, [&](DWORD milliseconds) { slept.push_back(milliseconds); });
+		sleep.allowNoCall();
+		EXPECT_EQ(Kiln::ejectDrive("c:/\xC3\xBC"), row.result);
+		const std::size_t locks = std::min<std::size_t>(row.failedLocks + 1, 20);
+		EXPECT_EQ(slept, Steps(locks - 1, 500)) << "half a second between two of them";
+		Steps expected(locks, lock);
+		expected.insert(expected.end(), row.locked.begin(), row.locked.end());
+		EXPECT_EQ(asked, expected);
+		EXPECT_TRUE(isClosed(handle));
 	}
 }
 
@@ -126,12 +101,7 @@ TEST(EjectDrive, WithoutADevice)
 	}
 	EXPECT_EQ(Kiln::ejectDrive(""), -256);
 
-	const ImportOverride refused("CreateFileW", &CreateFileW,
-		[](const wchar_t*, DWORD, DWORD, SECURITY_ATTRIBUTES*, DWORD, DWORD, HANDLE)
-		{
-			SetLastError(ERROR_ACCESS_DENIED);
-			return INVALID_HANDLE_VALUE;
-		});
+	const auto refused = failing("CreateFileW", &CreateFileW, ERROR_ACCESS_DENIED, INVALID_HANDLE_VALUE);
 	EXPECT_EQ(Kiln::ejectDrive("C:"), 0);
 
 	const ImportOverride network("GetDriveTypeW", &GetDriveTypeW,

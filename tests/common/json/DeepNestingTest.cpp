@@ -22,21 +22,22 @@ bool isArrayAt(int level)
 	return level % 20 == 0;
 }
 
-json::UnknownElement* innermostOf(json::UnknownElement& root, int depth)
+template <class Element>
+Element& innermostOf(Element& root, int depth)
 {
-	json::UnknownElement* innermost = &root;
+	Element* innermost = &root;
 	for (int level = 0; level < depth; ++level)
 	{
 		innermost = isArrayAt(level) ? &(*innermost)[0] : &(*innermost)["a"];
 	}
-	return innermost;
+	return *innermost;
 }
 
 /** [{"a" : {"a" : ... 1 ...}}] */
 json::UnknownElement makeDeep(int depth)
 {
 	json::UnknownElement root;
-	*innermostOf(root, depth) = json::Number(1);
+	innermostOf(root, depth) = json::Number(1);
 	return root;
 }
 
@@ -73,7 +74,7 @@ TEST(DeepNesting, TreesAreCopiedComparedConvertedAndDestroyed)
 		}
 		const json::UnknownElement converted = Kiln::toCajun(document);
 		EXPECT_TRUE(converted == deep);
-		*innermostOf(deep, Depth) = json::Number(2);
+		innermostOf(deep, Depth) = json::Number(2);
 		EXPECT_FALSE(converted == deep);
 	}
 	EXPECT_EQ(liveHeapObjects(), before);
@@ -122,12 +123,7 @@ TEST(DeepNesting, TextIsParsed)
 	rapidjson::Document document;
 	parse(document, opening + "1" + closing);
 	ASSERT_FALSE(document.HasParseError());
-	const rapidjson::Value* innermost = &document;
-	for (int level = 0; level < Depth; ++level)
-	{
-		innermost = isArrayAt(level) ? &(*innermost)[0] : &(*innermost)["a"];
-	}
-	EXPECT_EQ(*innermost, 1);
+	EXPECT_EQ(innermostOf<const rapidjson::Value>(document, Depth).GetInt(), 1);
 
 	rapidjson::Document cut;
 	parse(cut, opening);

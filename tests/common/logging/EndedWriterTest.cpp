@@ -14,32 +14,13 @@ namespace
 {
 constexpr const wchar_t* LogVariable = L"KILN_TEST_LOG";
 
-/** How many calls returned in the writing process, counted in memory that both processes see. */
-class SharedCount
+/** How many calls returned in the writing process, in memory that both processes see; mapped until they end. */
+volatile LONG* sharedCount()
 {
-public:
-	SharedCount()
-	{
-		EXPECT_TRUE(count);
-		*count = 0;
-	}
-
-	~SharedCount()
-	{
-		UnmapViewOfFile(const_cast<LONG*>(count));
-		CloseHandle(mapping);
-	}
-
-	SharedCount(const SharedCount&) = delete;
-	SharedCount& operator=(const SharedCount&) = delete;
-
-private:
 	const HANDLE mapping =
 		CreateFileMappingW(INVALID_HANDLE_VALUE, nullptr, PAGE_READWRITE, 0, sizeof(LONG), L"KilnTestEndedWriter");
-
-public:
-	volatile LONG* const count = static_cast<LONG*>(MapViewOfFile(mapping, FILE_MAP_ALL_ACCESS, 0, 0, sizeof(LONG)));
-};
+	return static_cast<LONG*>(MapViewOfFile(mapping, FILE_MAP_ALL_ACCESS, 0, 0, sizeof(LONG)));
+}
 
 std::string line(LONG number)
 {
@@ -56,18 +37,19 @@ TEST(EndedWriter, Writes)
 	}
 	Kiln::Logger logger;
 	logger.setDefaultLogFile(Kiln::toUtf8(file));
-	const SharedCount shared;
+	volatile LONG* const count = sharedCount();
 	for (LONG number = 0;; ++number)
 	{
 		logger.component("writer")->log(line(number), 0);
-		InterlockedIncrement(shared.count);
+		InterlockedIncrement(count);
 	}
 }
 
 TEST(EndedWriter, LeavesTheLinesOfAllCallsThatReturned)
 {
 	const TemporaryFolder folder;
-	const SharedCount shared;
+	volatile LONG* const count = sharedCount();
+	ASSERT_TRUE(count);
 	std::mt19937 random(20261114);
 	wchar_t program[MAX_PATH];
 	GetModuleFileNameW(nullptr, program, MAX_PATH);
@@ -75,10 +57,10 @@ TEST(EndedWriter, LeavesTheLinesOfAllCallsThatReturned)
 	{
 		const std::string file = folder / (std::to_string(round) + ".log");
 		SetEnvironmentVariableW(LogVariable, Kiln::toWide(file).c_str());
-		*shared.count = 0;
+		*count = 0;
 		const ChildProcess writer(
 			L"\"" + std::wstring(program) + L"\" --gtest_brief=1 --gtest_filter=EndedWriter.Writes");
-		while (*shared.count == 0 && !writer.endsWithin(1))
+		while (*count == 0 && !writer.endsWithin(1))
 		{
 		}
 		writer.endsWithin(random() % 20);
@@ -86,7 +68,7 @@ TEST(EndedWriter, LeavesTheLinesOfAllCallsThatReturned)
 		ASSERT_EQ(writer.exitCode(), 9u);
 
 		const std::vector<std::string> lines = linesOf(file);
-		const LONG returned = *shared.count;
+		const LONG returned = *count;
 		ASSERT_GT(returned, 0);
 		ASSERT_GE(lines.size(), static_cast<std::size_t>(returned));
 		for (LONG number = 0; number < returned; ++number)

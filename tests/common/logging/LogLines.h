@@ -7,16 +7,20 @@
 #include <string>
 #include <vector>
 
-/** The lines of a log file; what follows the last newline counts as one. */
-inline std::vector<std::string> linesOf(const std::string& path)
+/** The lines of a log; what follows the last newline counts as one. */
+inline std::vector<std::string> linesOf(std::istream&& stream)
 {
-	std::ifstream stream = Kiln::openInput(path);
 	std::vector<std::string> lines;
 	for (std::string line; std::getline(stream, line);)
 	{
 		lines.push_back(line);
 	}
 	return lines;
+}
+
+inline std::vector<std::string> linesOf(const std::string& path)
+{
+	return linesOf(Kiln::openInput(path));
 }
 
 /** Logs a warning as the library's own code does. */

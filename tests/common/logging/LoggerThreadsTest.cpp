@@ -110,13 +110,7 @@ TEST(LoggerThreads, OfTheConsoleShareIt)
 			}
 		});
 	std::cerr.rdbuf(before);
-	std::istringstream stream(out.text());
-	std::vector<std::string> lines;
-	for (std::string line; std::getline(stream, line);)
-	{
-		lines.push_back(line);
-	}
-	expectAllLines(lines, std::vector<int>(Threads, Lines));
+	expectAllLines(linesOf(std::istringstream(out.text())), std::vector<int>(Threads, Lines));
 }
 
 TEST(LoggerThreads, MayLogWhileOthersConfigure)
@@ -157,8 +151,7 @@ TEST(LoggerThreads, MayLogWhileOthersConfigure)
 					std::this_thread::yield();
 				}
 			});
-		const std::string text = out.text();
-		consoleLines = static_cast<std::size_t>(std::ranges::count(text, '\n'));
+		consoleLines = linesOf(std::istringstream(out.text())).size();
 		shared.setStream(nullptr);
 	}
 	EXPECT_EQ(linesOf(folder / "a.log").size() + linesOf(folder / "b.log").size() + consoleLines,

@@ -1,18 +1,14 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // Each call of the platform that can fail, failing.
-#include "FakeComputer.h"
-#include "RecordingObserver.h"
-#include "Shell.h"
-#include "WarningLog.h"
+#include "Listening.h"
 
-#include <kiln/VolumeEventMonitor.h>
 #include <process.h>
 #include <system_error>
+#include <tuple>
 
 namespace
 {
 using Kiln::VolumeEventMonitor;
-using Events = std::vector<std::string>;
 
 const std::vector<FakeVolume> drives{{.paths = {L"C:\\"}}};
 
@@ -56,7 +52,11 @@ TEST(MonitorFailures, ComThatIsThereAlreadyIsNoFailure)
 {
 	const ImportOverride com("CoInitializeEx", &CoInitializeEx, [](void*, DWORD) { return S_FALSE; });
 	const ImportOverride folder("SHGetFolderLocation", &SHGetFolderLocation,
-		[](HWND, int, HANDLE, DWORD, PIDLIST_ABSOLUTE*) { return E_FAIL; });
+		[](HWND, int kind, auto...)
+		{
+			EXPECT_EQ(kind, CSIDL_DRIVES);
+			return E_FAIL;
+		});
 	const FakeComputer computer(drives);
 	RecordingObserver observer;
 	VolumeEventMonitor monitor;
@@ -67,23 +67,15 @@ TEST(MonitorFailures, ComThatIsThereAlreadyIsNoFailure)
 
 TEST(MonitorFailures, WithoutAWindowThereIsNoMonitoring)
 {
-	const auto refuse = [](DWORD, const wchar_t* name, const wchar_t* title, DWORD style, int x, int y, int width,
-							int height, HWND parent, HMENU menu, HINSTANCE module, void* parameter) -> HWND
-	{
-		EXPECT_STREQ(name, L"VolumeEventMonitor");
-		EXPECT_EQ(title, nullptr);
-		EXPECT_EQ(style, WS_POPUP);
-		EXPECT_EQ(x, CW_USEDEFAULT);
-		EXPECT_EQ(y, 0);
-		EXPECT_EQ(width, 640);
-		EXPECT_EQ(height, 480);
-		EXPECT_EQ(parent, nullptr);
-		EXPECT_EQ(menu, nullptr);
-		EXPECT_EQ(module, GetModuleHandleW(nullptr));
-		EXPECT_NE(parameter, nullptr);
-		return nullptr;
-	};
-	const ImportOverride window("CreateWindowExW", &CreateWindowExW, refuse);
+	const ImportOverride window("CreateWindowExW", &CreateWindowExW,
+		[](DWORD, const wchar_t*, const wchar_t* title, DWORD style, int x, int y, int width, int height, HWND parent,
+			HMENU menu, HINSTANCE module, void*) -> HWND
+		{
+			EXPECT_EQ(std::tuple(title, style, x, y, width, height, parent, menu, module),
+				std::tuple(
+					nullptr, DWORD{WS_POPUP}, CW_USEDEFAULT, 0, 640, 480, nullptr, nullptr, GetModuleHandleW(nullptr)));
+			return nullptr;
+		});
 	expectInert("Failed to create listener window for volume events");
 }
 
@@ -95,26 +87,10 @@ TEST(MonitorFailures, WithoutAClassThereIsNoMonitoring)
 
 TEST(MonitorFailures, WithoutARegistrationThereIsNoMonitoring)
 {
-	void* folder = nullptr;
-	bool isFolderFreed = false;
-	const ImportOverride locate("SHGetFolderLocation", &SHGetFolderLocation,
-		[&, real = &SHGetFolderLocation](HWND window, int kind, HANDLE token, DWORD flags, PIDLIST_ABSOLUTE* item)
-		{
-			EXPECT_EQ(kind, CSIDL_DRIVES);
-			const HRESULT result = real(window, kind, token, flags, item);
-			folder = *item;
-			return result;
-		});
-	const ImportOverride free("CoTaskMemFree", &CoTaskMemFree,
-		[&, real = &CoTaskMemFree](void* memory)
-		{
-			isFolderFreed |= memory == folder;
-			real(memory);
-		});
-	const ImportOverride shell("SHChangeNotifyRegister", &SHChangeNotifyRegister,
-		[](HWND, int, LONG, UINT, int, const SHChangeNotifyEntry*) { return 0ul; });
+	const auto free = counted("CoTaskMemFree", &CoTaskMemFree);
+	const ImportOverride shell("SHChangeNotifyRegister", &SHChangeNotifyRegister, [](auto...) { return 0ul; });
 	expectInert("Failed to register for shell notifications");
-	EXPECT_TRUE(isFolderFreed);
+	EXPECT_EQ(free.calls(), 1) << "the folder that was to be watched";
 }
 
 TEST(MonitorFailures, WithoutAThreadStartThrowsAndMayBeTriedAgain)
@@ -125,7 +101,7 @@ TEST(MonitorFailures, WithoutAThreadStartThrowsAndMayBeTriedAgain)
 	monitor.addObserver(&observer);
 	{
 		const ImportOverride thread("_beginthreadex", &_beginthreadex,
-			[](void*, unsigned, unsigned(__stdcall*)(void*), void*, unsigned, unsigned*) -> uintptr_t
+			[](auto...) -> uintptr_t
 			{
 				errno = EAGAIN;
 				return 0;
@@ -144,43 +120,26 @@ TEST(MonitorFailures, WithoutAThreadStartThrowsAndMayBeTriedAgain)
 	EXPECT_TRUE(observer.waitFor(1));
 }
 
-/** A monitor that listens. */
-struct Listening
+/** Announces what should not arrive, then what should. */
+Events announceBoth(Listening& listening, const std::function<void()>& first)
 {
-	Listening()
-	{
-		monitor.addObserver(&observer);
-		monitor.start();
-		EXPECT_TRUE(observer.waitFor(1));
-	}
-
-	/** Announces what should not arrive, then what should. */
-	Events announceBoth(const std::function<void()>& first)
-	{
-		first();
-		SendMessageW(monitorWindow(), WM_NULL, 0, 0);
-		announce(SHCNE_DRIVEREMOVED, L"Q:\\");
-		EXPECT_TRUE(observer.waitFor(2));
-		return observer.events();
-	}
-
-	const FakeComputer computer{drives};
-	const decltype(watchBelow()) watch = watchBelow();
-	WarningLog log;
-	RecordingObserver observer;
-	VolumeEventMonitor monitor;
-};
+	first();
+	SendMessageW(monitorWindow(), WM_NULL, 0, 0);
+	announce(SHCNE_DRIVEREMOVED, L"Q:\\");
+	EXPECT_TRUE(listening.observer.waitFor(2));
+	return listening.observer.events();
+}
 
 TEST(MonitorFailures, MessagesThatTheShellDoesNotKnowAreIgnored)
 {
-	Listening listening;
-	EXPECT_EQ(listening.announceBoth([] { PostMessageW(monitorWindow(), 0x4C8, 1, 2); }), (Events{"+C:", "-Q:"}));
+	Listening listening(drives);
+	EXPECT_EQ(announceBoth(listening, [] { PostMessageW(monitorWindow(), 0x4C8, 1, 2); }), (Events{"+C:", "-Q:"}));
 	EXPECT_EQ(listening.log.text(), "");
 }
 
 TEST(MonitorFailures, ChangesOfNoItemAndOfItemsWithoutAPathAreIgnored)
 {
-	Listening listening;
+	Listening listening(drives);
 	const auto withoutItem = []
 	{
 		const ImportOverride lock("SHChangeNotification_Lock", &SHChangeNotification_Lock,
@@ -191,12 +150,11 @@ TEST(MonitorFailures, ChangesOfNoItemAndOfItemsWithoutAPathAreIgnored)
 				*items = none;
 				return result;
 			});
-		const ImportOverride unlock("SHChangeNotification_Unlock", &SHChangeNotification_Unlock,
-			[real = &SHChangeNotification_Unlock](HANDLE change) { return real(change); });
+		const auto unlock = counted("SHChangeNotification_Unlock", &SHChangeNotification_Unlock);
 		announce(SHCNE_DRIVEADD, L"C:\\");
 		EXPECT_TRUE(isTrueSoon([&] { return unlock.calls() > 0; }));
 	};
-	EXPECT_EQ(listening.announceBoth(withoutItem), (Events{"+C:", "-Q:"}));
+	EXPECT_EQ(announceBoth(listening, withoutItem), (Events{"+C:", "-Q:"}));
 
 	int creations = 0;
 	const ImportOverride create("SHCreateItemFromIDList", &SHCreateItemFromIDList,
@@ -219,7 +177,7 @@ TEST(MonitorFailures, ChangesOfNoItemAndOfItemsWithoutAPathAreIgnored)
 		announce(SHCNE_DRIVEADD, L"C:\\");
 		announce(SHCNE_DRIVEADD, L"C:\\");
 	};
-	listening.announceBoth(withoutPath);
+	announceBoth(listening, withoutPath);
 	EXPECT_TRUE(listening.observer.waitFor(3));
 	EXPECT_EQ(listening.observer.events(), (Events{"+C:", "-Q:", "-Q:"}));
 	EXPECT_EQ(creations, 3);

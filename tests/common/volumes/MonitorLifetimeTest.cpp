@@ -1,17 +1,10 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "FakeComputer.h"
 #include "GuardHeap.h"
-#include "RecordingObserver.h"
-#include "Shell.h"
-#include "WarningLog.h"
-
-#include <kiln/VolumeEventMonitor.h>
-#include <semaphore>
+#include "Listening.h"
 
 namespace
 {
 using Kiln::VolumeEventMonitor;
-using Events = std::vector<std::string>;
 
 const FakeVolume system{.paths = {L"C:\\"}, .device = FakeDevice{"s"}};
 const FakeVolume share{.paths = {L"N:\\"}, .driveType = DRIVE_REMOTE};
@@ -23,16 +16,16 @@ class Gate
 public:
 	void pass()
 	{
-		isReached_.release();
-		isOpen_.acquire();
+		isReached_.send();
+		EXPECT_TRUE(isOpen_.wait());
 	}
 
-	bool waitUntilReached() { return isReached_.try_acquire_for(std::chrono::seconds(10)); }
-	void open() { isOpen_.release(); }
+	bool waitUntilReached() { return isReached_.wait(); }
+	void open() { isOpen_.send(); }
 
 private:
-	std::binary_semaphore isReached_{0};
-	std::binary_semaphore isOpen_{0};
+	Signal isReached_;
+	Signal isOpen_;
 };
 
 /** Starts a monitor whose thread comes to the gate, and destroys it while the thread is there. */
@@ -54,44 +47,22 @@ TEST(MonitorLifetime, TheThreadEndsWhereverItIs)
 {
 	const FakeComputer computer({system});
 	Gate gate;
+	const auto pass = [&] { gate.pass(); };
 	{
-		const ImportOverride com("CoInitializeEx", &CoInitializeEx,
-			[&, real = &CoInitializeEx](void* reserved, DWORD mode)
-			{
-				gate.pass();
-				return real(reserved, mode);
-			});
+		const auto com = hooked("CoInitializeEx", &CoInitializeEx, pass);
 		destroyAt(gate);
 	}
 	{
-		const ImportOverride window("CreateWindowExW", &CreateWindowExW,
-			[&, real = &CreateWindowExW](DWORD extended, const wchar_t* name, const wchar_t* title, DWORD style, int x,
-				int y, int width, int height, HWND parent, HMENU menu, HINSTANCE module, void* parameter)
-			{
-				gate.pass();
-				return real(extended, name, title, style, x, y, width, height, parent, menu, module, parameter);
-			});
+		const auto window = hooked("CreateWindowExW", &CreateWindowExW, pass);
 		destroyAt(gate);
 	}
 	{
-		const ImportOverride folder("SHGetFolderLocation", &SHGetFolderLocation,
-			[&, real = &SHGetFolderLocation](HWND window, int kind, HANDLE token, DWORD flags, PIDLIST_ABSOLUTE* item)
-			{
-				gate.pass();
-				return real(window, kind, token, flags, item);
-			});
+		const auto folder = hooked("SHGetFolderLocation", &SHGetFolderLocation, pass);
 		destroyAt(gate);
 	}
 	{
-		const ImportOverride shell("SHChangeNotifyRegister", &SHChangeNotifyRegister,
-			[&, real = &SHChangeNotifyRegister](
-				HWND window, int sources, LONG events, UINT message, int count, const SHChangeNotifyEntry* entry)
-			{
-				gate.pass();
-				return real(window, sources, events, message, count, entry);
-			});
-		const ImportOverride deregister("SHChangeNotifyDeregister", &SHChangeNotifyDeregister,
-			[real = &SHChangeNotifyDeregister](ULONG registration) { return real(registration); });
+		const auto shell = hooked("SHChangeNotifyRegister", &SHChangeNotifyRegister, pass);
+		const auto deregister = counted("SHChangeNotifyDeregister", &SHChangeNotifyDeregister);
 		destroyAt(gate);
 	}
 }
@@ -119,15 +90,10 @@ TEST(MonitorLifetime, ADriveThatDoesNotAnswerDelaysTheEndByItsOwnQueryAlone)
 	EXPECT_EQ(monitor->listMountPoints(paths), 3u);
 	monitor->removeObserver(&observer);
 
-	std::binary_semaphore isEnding{0};
-	const ImportOverride post("PostMessageW", &PostMessageW,
-		[&, real = &PostMessageW](HWND window, UINT message, WPARAM wide, LPARAM low)
-		{
-			isEnding.release();
-			return real(window, message, wide, low);
-		});
+	Signal isEnding;
+	const auto post = hooked("PostMessageW", &PostMessageW, [&] { isEnding.send(); });
 	std::jthread destroyer([&] { monitor.reset(); });
-	isEnding.acquire();
+	ASSERT_TRUE(isEnding.wait());
 	gate.open();
 	destroyer.join();
 	EXPECT_EQ(computer.queries, 2) << "the last drive is not asked any more";
@@ -137,7 +103,6 @@ TEST(MonitorLifetime, ADriveThatDoesNotAnswerDelaysTheEndByItsOwnQueryAlone)
 
 TEST(MonitorLifetime, AFullMessageQueueDoesNotKeepTheThread)
 {
-	const FakeComputer computer({system});
 	int refusals = 0;
 	const ImportOverride post("PostMessageW", &PostMessageW,
 		[&, real = &PostMessageW](HWND window, UINT message, WPARAM wide, LPARAM low) -> BOOL
@@ -150,64 +115,36 @@ TEST(MonitorLifetime, AFullMessageQueueDoesNotKeepTheThread)
 			}
 			return real(window, message, wide, low);
 		});
-	RecordingObserver observer;
-	auto monitor = std::make_unique<VolumeEventMonitor>();
-	monitor->addObserver(&observer);
-	monitor->start();
-	ASSERT_TRUE(observer.waitFor(1));
+	Listening listening({system});
 	SendMessageW(monitorWindow(), WM_NULL, 0, 0);
-	monitor.reset();
+	listening.monitor.reset();
 	EXPECT_EQ(refusals, 3);
 }
 
 TEST(MonitorLifetime, EndsInTheMidstOfAStormWhileObserversComeAndGo)
 {
-	const FakeComputer computer({system, share});
-	const auto watch = watchBelow();
 	for (int round = 0; round < 5; ++round)
 	{
-		RecordingObserver staying;
-		auto monitor = std::make_unique<VolumeEventMonitor>();
-		monitor->addObserver(&staying);
-		monitor->start();
-		ASSERT_TRUE(staying.waitFor(2));
-		std::atomic<bool> isOver = false;
-		std::atomic<bool> isDestroyed = false;
-		std::vector<std::jthread> visitors;
-		for (int thread = 0; thread < 2; ++thread)
-		{
-			visitors.emplace_back(
-				[&]
-				{
-					while (!isOver)
-					{
-						RecordingObserver visitor;
-						monitor->addObserver(&visitor);
-						monitor->removeObserver(&visitor);
-					}
-				});
-		}
-		std::vector<std::jthread> announcers;
-		for (int thread = 0; thread < 3; ++thread)
-		{
-			announcers.emplace_back(
-				[&]
-				{
-					while (!isDestroyed)
-					{
-						announce(SHCNE_DRIVEADD, L"C:\\");
-						announce(SHCNE_DRIVEREMOVED, L"C:\\");
-					}
-				});
-		}
-		EXPECT_TRUE(staying.waitFor(50));
-		isOver = true;
+		Listening listening({system, share});
+		auto visitors = repeatOnThreads(2,
+			[&]
+			{
+				RecordingObserver visitor;
+				listening.monitor->addObserver(&visitor);
+				listening.monitor->removeObserver(&visitor);
+			});
+		auto announcers = repeatOnThreads(3,
+			[]
+			{
+				announce(SHCNE_DRIVEADD, L"C:\\");
+				announce(SHCNE_DRIVEREMOVED, L"C:\\");
+			});
+		EXPECT_TRUE(listening.observer.waitFor(50));
 		visitors.clear();
-		monitor.reset();
-		const std::size_t count = staying.events().size();
-		isDestroyed = true;
+		listening.monitor.reset();
+		const std::size_t count = listening.observer.events().size();
 		announcers.clear();
-		EXPECT_EQ(staying.events().size(), count);
+		EXPECT_EQ(listening.observer.events().size(), count);
 	}
 }
 
@@ -243,14 +180,9 @@ TEST(MonitorLifetime, ComIsLeftOnceOnTheThreadThatDestroys)
 {
 	std::vector<std::thread::id> threads;
 	const ImportOverride com("CoUninitialize", &CoUninitialize, [&] { threads.push_back(std::this_thread::get_id()); });
-	const FakeComputer computer({system});
-	RecordingObserver observer;
 	{
-		VolumeEventMonitor monitor;
+		const Listening listening({system});
 		const VolumeEventMonitor neverStarted;
-		monitor.addObserver(&observer);
-		monitor.start();
-		ASSERT_TRUE(observer.waitFor(1));
 	}
 	EXPECT_EQ(threads, std::vector<std::thread::id>(2, std::this_thread::get_id()));
 }
@@ -258,19 +190,10 @@ TEST(MonitorLifetime, ComIsLeftOnceOnTheThreadThatDestroys)
 TEST(MonitorLifetime, AThousandMonitorsLeaveNothingBehind)
 {
 	const FakeComputer computer({system, share});
-	const ImportOverride window("CreateWindowExW", &CreateWindowExW,
-		[real = &CreateWindowExW](auto... arguments) { return real(arguments...); });
-	const ImportOverride destroy(
-		"DestroyWindow", &DestroyWindow, [real = &DestroyWindow](HWND handle) { return real(handle); });
-	const ImportOverride registerClass("RegisterClassExW", &RegisterClassExW,
-		[real = &RegisterClassExW](const WNDCLASSEXW* description) { return real(description); });
-	const ImportOverride unregisterClass("UnregisterClassW", &UnregisterClassW,
-		[real = &UnregisterClassW](const wchar_t* name, HINSTANCE module)
-		{
-			const BOOL isDone = real(name, module);
-			EXPECT_TRUE(isDone);
-			return isDone;
-		});
+	const auto window = counted("CreateWindowExW", &CreateWindowExW);
+	const auto destroy = counted("DestroyWindow", &DestroyWindow);
+	const auto registerClass = counted("RegisterClassExW", &RegisterClassExW);
+	const auto unregisterClass = counted("UnregisterClassW", &UnregisterClassW);
 	const auto watch = watchBelow();
 	const ImportOverride deregister("SHChangeNotifyDeregister", &SHChangeNotifyDeregister,
 		[real = &SHChangeNotifyDeregister](ULONG registration)

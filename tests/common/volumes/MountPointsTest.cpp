@@ -3,7 +3,6 @@
 #include "ImportOverride.h"
 #include "WarningLog.h"
 
-#include <gtest/gtest.h>
 #include <kiln/VolumeEventMonitor.h>
 
 namespace
@@ -12,7 +11,6 @@ using Texts = std::vector<std::string>;
 
 const FakeVolume system{.paths = {L"C:\\", L"D:\\mounted \u00FC\\"}};
 const FakeVolume stick{.paths = {L"E:\\"}, .driveType = DRIVE_REMOVABLE};
-const FakeVolume unmounted{.paths = {}};
 const FakeVolume share{.paths = {L"Z:\\"}, .driveType = DRIVE_REMOTE};
 
 /** What is listed, and what is logged. */
@@ -21,12 +19,10 @@ struct Listing
 	Listing()
 	{
 		WarningLog log;
-		{
-			const Kiln::VolumeEventMonitor monitor;
-			const std::size_t count = monitor.listMountPoints(paths);
-			EXPECT_EQ(count, paths.size());
-			warnings = log.text();
-		}
+		const Kiln::VolumeEventMonitor monitor;
+		const std::size_t count = monitor.listMountPoints(paths);
+		EXPECT_EQ(count, paths.size());
+		warnings = log.text();
 	}
 
 	Texts paths{"of before"};
@@ -35,38 +31,36 @@ struct Listing
 
 TEST(MountPoints, OfLocalVolumesThenNetworkDrives)
 {
-	const FakeComputer computer({share, unmounted, system, stick});
-	const Listing listing;
-	EXPECT_EQ(listing.paths, (Texts{"C:\\", "D:\\mounted \xC3\xBC\\", "E:\\", "Z:\\"}));
-	EXPECT_EQ(listing.warnings, "");
-}
-
-TEST(MountPoints, WithoutASearchThereAreStillNetworkDrives)
-{
-	FakeComputer computer({system, share, stick});
-	computer.fail("FindFirstVolumeW", ERROR_FILENAME_EXCED_RANGE);
-	const Listing without;
-	EXPECT_EQ(without.paths, Texts{"Z:\\"});
-	EXPECT_EQ(without.warnings, "Failed to list attached volumes: FindFirstVolume() failed with error code 206\n");
-
-	computer.fail("FindNextVolumeW", ERROR_INVALID_HANDLE);
-	const Listing broken;
-	EXPECT_EQ(broken.paths, (Texts{"C:\\", "D:\\mounted \xC3\xBC\\", "Z:\\"}));
-	EXPECT_EQ(broken.warnings, "Failed to retrieve volume: FindNextVolume() failed with error code 6\n");
-
-	computer.fail("GetLogicalDrives", ERROR_NOT_READY);
-	EXPECT_EQ(Listing().paths, (Texts{"C:\\", "D:\\mounted \xC3\xBC\\", "E:\\"}));
-}
-
-TEST(MountPoints, AVolumeWhoseNameIsTooLongIsLoggedAndLeftOut)
-{
-	const std::wstring name = L"\\\\?\\Volume{\u00FC" + std::wstring(300, L'x');
-	const FakeComputer computer(
-		{FakeVolume{.paths = {L"E:\\"}, .name = name}, {.paths = {L"F:\\"}, .name = name.substr(0, 259)}});
-	const Listing listing;
-	EXPECT_EQ(listing.paths, Texts{"F:\\"});
-	EXPECT_EQ(listing.warnings,
-		"Failed to enumerate mount points for volume '\\\\?\\Volume{\xC3\xBC" + std::string(248, 'x') + "'\n");
+	const std::wstring longName = L"\\\\?\\Volume{\u00FC" + std::wstring(300, L'x');
+	struct Row
+	{
+		const char* failing;
+		DWORD error;
+		std::vector<FakeVolume> volumes;
+		Texts paths;
+		std::string warnings = {};
+	};
+	const Row rows[] = {
+		{"nothing", 0, {share, {.paths = {}}, system, stick}, {"C:\\", "D:\\mounted \xC3\xBC\\", "E:\\", "Z:\\"}},
+		{"FindFirstVolumeW", 206, {system, share, stick}, {"Z:\\"},
+			"Failed to list attached volumes: FindFirstVolume() failed with error code 206\n"},
+		{"FindNextVolumeW", 6, {system, share, stick}, {"C:\\", "D:\\mounted \xC3\xBC\\", "Z:\\"},
+			"Failed to retrieve volume: FindNextVolume() failed with error code 6\n"},
+		{"GetLogicalDrives", ERROR_NOT_READY, {share, stick}, {"E:\\"}},
+		{"GetVolumePathNamesForVolumeNameW", ERROR_FILE_NOT_FOUND, {system, stick}, {"E:\\"}},
+		{"a name that is too long", 0,
+			{{.paths = {L"E:\\"}, .name = longName}, {.paths = {L"F:\\"}, .name = longName.substr(0, 259)}}, {"F:\\"},
+			"Failed to enumerate mount points for volume '\\\\?\\Volume{\xC3\xBC" + std::string(248, 'x') + "'\n"},
+	};
+	for (const Row& row : rows)
+	{
+		SCOPED_TRACE(row.failing);
+		FakeComputer computer(row.volumes);
+		computer.fail(row.failing, row.error);
+		const Listing listing;
+		EXPECT_EQ(listing.paths, row.paths);
+		EXPECT_EQ(listing.warnings, row.warnings);
+	}
 }
 
 TEST(MountPoints, AVolumeWhoseNameCannotBeConvertedIsLoggedAndLeftOut)
@@ -83,60 +77,36 @@ TEST(MountPoints, AVolumeWhoseNameCannotBeConvertedIsLoggedAndLeftOut)
 	EXPECT_EQ(listing.warnings, "Failed to enumerate mount points for volume '\\\\?\\Volume{0}\\'\n");
 }
 
-/** Mount paths of 20 characters each. */
-std::vector<std::wstring> paths(int count)
-{
-	std::vector<std::wstring> all;
-	for (int number = 0; number < count; ++number)
-	{
-		all.push_back(L"C:\\" + std::to_wstring(number + 1000000) + L"-------\\\u00FC");
-	}
-	return all;
-}
-
 TEST(MountPoints, ListsMayBeLongAndGrowMeanwhile)
 {
-	FakeComputer computer({FakeVolume{.paths = paths(100)}});
-	EXPECT_EQ(Listing().paths.size(), 100u);
+	const FakeComputer computer({{.paths = std::vector(100, L"C:\\" + std::wstring(17, L'x'))}});
+	EXPECT_EQ(Listing().paths, Texts(100, "C:\\" + std::string(17, 'x')));
 
 	int attempts = 0;
 	const ImportOverride names("GetVolumePathNamesForVolumeNameW", &GetVolumePathNamesForVolumeNameW,
 		[&](const wchar_t*, wchar_t* out, DWORD room, DWORD* length) -> BOOL
 		{
-			++attempts;
 			*length = room + 1;
-			if (attempts < 20)
-			{
-				SetLastError(ERROR_MORE_DATA);
-				return FALSE;
-			}
-			// The longest list that fits, without the NULs at its end.
+			SetLastError(ERROR_MORE_DATA);
+			// In the end the longest list that fits, without the NULs at its end.
 			std::fill_n(out, room, L'x');
-			return TRUE;
+			return ++attempts == 20;
 		});
 	EXPECT_EQ(Listing().paths, Texts{std::string(261 + 19, 'x')});
 	EXPECT_EQ(attempts, 20);
 }
 
-TEST(MountPoints, AVolumeWhosePathsCannotBeToldHasNone)
+TEST(MountPoints, AListThatNeverFitsIsNotAskedForEver)
 {
-	FakeComputer computer({system, stick});
-	computer.fail("GetVolumePathNamesForVolumeNameW", ERROR_FILE_NOT_FOUND);
-	const Listing unknown;
-	EXPECT_EQ(unknown.paths, Texts{"E:\\"});
-	EXPECT_EQ(unknown.warnings, "");
-
-	// "More" without a length to be had would be asked for ever.
-	int attempts = 0;
+	const FakeComputer computer({system, stick});
 	const ImportOverride names("GetVolumePathNamesForVolumeNameW", &GetVolumePathNamesForVolumeNameW,
-		[&](const wchar_t*, wchar_t*, DWORD, DWORD* length) -> BOOL
+		[](const wchar_t*, wchar_t*, DWORD, DWORD* length) -> BOOL
 		{
-			++attempts;
 			*length = 0;
 			SetLastError(ERROR_MORE_DATA);
 			return FALSE;
 		});
 	EXPECT_EQ(Listing().paths, Texts());
-	EXPECT_EQ(attempts, 2);
+	EXPECT_EQ(names.calls(), 2);
 }
 } // namespace

@@ -1,12 +1,11 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // Also run natively, where races are seen.
-#include <atomic>
+#include "Awaited.h"
+
 #include <gtest/gtest.h>
 #include <kiln/VolumeNotification.h>
 #include <kiln/VolumeNotificationProvider.h>
 #include <memory>
-#include <thread>
-#include <vector>
 
 namespace
 {
@@ -69,40 +68,28 @@ TEST(ObserverRegistry, LosesNothingWhileObserversComeAndGo)
 	Kiln::VolumeNotificationProvider provider;
 	Counter staying;
 	provider.addObserver(&staying);
-	std::atomic<bool> isOver = false;
-	std::vector<std::jthread> visitors;
-	for (int thread = 0; thread < Threads; ++thread)
+	const auto visitors = repeatOnThreads(Threads,
+		[&]
+		{
+			// Destroyed at once: a call after the removal would be one of a dead object.
+			const auto visitor = std::make_unique<Counter>();
+			provider.addObserver(visitor.get());
+			provider.removeObserver(visitor.get());
+		});
+	std::vector<std::jthread> notifiers(Threads);
+	for (std::jthread& notifier : notifiers)
 	{
-		visitors.emplace_back(
+		notifier = std::jthread(
 			[&]
 			{
-				while (!isOver)
-				{
-					// Destroyed at once: a call after the removal would be one of a dead object.
-					const auto visitor = std::make_unique<Counter>();
-					provider.addObserver(visitor.get());
-					provider.removeObserver(visitor.get());
-				}
-			});
-	}
-	std::vector<std::jthread> notifiers;
-	for (int thread = 0; thread < Threads; ++thread)
-	{
-		notifiers.emplace_back(
-			[&]
-			{
-				const auto mounted = notification<VolumeMountedNotification>();
-				const auto unmounted = notification<VolumeUnmountedNotification>();
 				for (int number = 0; number < Notifications; ++number)
 				{
-					provider.notifyVolumeMounted(mounted);
-					provider.notifyVolumeUnmounted(unmounted);
+					provider.notifyVolumeMounted(notification<VolumeMountedNotification>());
+					provider.notifyVolumeUnmounted(notification<VolumeUnmountedNotification>());
 				}
 			});
 	}
 	notifiers.clear();
-	isOver = true;
-	visitors.clear();
 	EXPECT_EQ(staying.mounted, Threads * Notifications);
 	EXPECT_EQ(staying.unmounted, Threads * Notifications);
 }

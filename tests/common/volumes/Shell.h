@@ -12,6 +12,25 @@ inline void announce(LONG event, const std::wstring& path)
 	SHChangeNotify(event, SHCNF_PATHW, path.c_str(), nullptr);
 }
 
+/** Calls the hook before each call of a platform function, which is passed on. */
+template <class Result, class... Arguments, class Hook>
+auto hooked(const char* name, Result (*function)(Arguments...), Hook hook)
+{
+	return ImportOverride(name, function,
+		[function, hook](Arguments... arguments)
+		{
+			hook();
+			return function(arguments...);
+		});
+}
+
+/** Counts the calls of a platform function. */
+template <class Result, class... Arguments>
+auto counted(const char* name, Result (*function)(Arguments...))
+{
+	return hooked(name, function, [] {});
+}
+
 /**
  * Has registrations with the shell include all that is below the folder: Wine announces to those alone what happens to the
  * folder's direct children. Everything else is passed on as it is.

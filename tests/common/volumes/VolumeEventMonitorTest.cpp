@@ -1,17 +1,12 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "FakeComputer.h"
-#include "RecordingObserver.h"
-#include "Shell.h"
-#include "WarningLog.h"
+#include "Listening.h"
 
-#include <kiln/VolumeEventMonitor.h>
 #include <stdexcept>
 
 namespace
 {
 using Kiln::VolumeEventMonitor;
 using Kiln::VolumeInfo;
-using Events = std::vector<std::string>;
 
 const FakeVolume system{.paths = {L"C:\\"}};
 const FakeVolume stick{.paths = {L"E:\\"}, .label = L"stick", .device = FakeDevice{"s", true}};
@@ -29,16 +24,10 @@ Events mountPaths(const VolumeEventMonitor& monitor)
 
 TEST(VolumeEventMonitor, ReportsWhatIsThereThenWhatChanges)
 {
-	const FakeComputer computer({system, stick, share});
-	const auto watch = watchBelow();
-	WarningLog log;
-	RecordingObserver observer;
-	VolumeEventMonitor monitor;
-	monitor.addObserver(&observer);
-	EXPECT_EQ(observer.events(), Events());
-	EXPECT_TRUE(monitor.start());
-	EXPECT_FALSE(monitor.start());
-	ASSERT_TRUE(observer.waitFor(3));
+	Listening listening({system, stick, share});
+	RecordingObserver& observer = listening.observer;
+	const VolumeEventMonitor& monitor = *listening.monitor;
+	EXPECT_FALSE(listening.monitor->start());
 	EXPECT_TRUE(observer.last().isNetwork);
 	EXPECT_EQ(mountPaths(monitor), Events{"Z:"}) << "all have the same key";
 
@@ -56,19 +45,15 @@ TEST(VolumeEventMonitor, ReportsWhatIsThereThenWhatChanges)
 	announce(SHCNE_DRIVEREMOVED, L"C:\\");
 	ASSERT_TRUE(observer.waitFor(7));
 	EXPECT_EQ(observer.events(), (Events{"+C:", "+E:", "+Z:", "+E:", "-Q:", "+Z:", "-C:"}));
-	EXPECT_EQ(log.text(), "");
+	EXPECT_EQ(listening.log.text(), "");
 }
 
 TEST(VolumeEventMonitor, PathsWithoutADriveAreReportedEmptyAndTooLongOnesNotAtAll)
 {
-	const FakeComputer computer({FakeVolume{.paths = {L"\\\\server\\share\\", L"C:\\" + std::wstring(258, L'x')}},
+	Listening listening({{.paths = {L"\\\\server\\share\\", L"C:\\" + std::wstring(258, L'x')}},
 		{.paths = {L"D:\\", L"D:\\" + std::wstring(257, L'x')}}});
-	RecordingObserver observer;
-	VolumeEventMonitor monitor;
-	monitor.addObserver(&observer);
-	monitor.start();
-	EXPECT_TRUE(observer.waitFor(3));
-	EXPECT_EQ(observer.events(), (Events{"+", "+D:", "+D:"}));
+	EXPECT_TRUE(listening.observer.waitFor(3));
+	EXPECT_EQ(listening.observer.events(), (Events{"+", "+D:", "+D:"}));
 }
 
 TEST(VolumeEventMonitor, TheTableHasOneVolumeForEachKey)
@@ -97,21 +82,15 @@ TEST(VolumeEventMonitor, TheTableHasOneVolumeForEachKey)
 
 TEST(VolumeEventMonitor, ASecondOneIsInertAndHarmsNothing)
 {
-	FakeComputer computer({system});
-	const auto watch = watchBelow();
-	WarningLog log;
-	RecordingObserver observer;
-	auto first = std::make_unique<VolumeEventMonitor>();
-	first->addObserver(&observer);
-	first->start();
-	ASSERT_TRUE(observer.waitFor(1));
+	Listening listening({system});
+	RecordingObserver& observer = listening.observer;
 	auto third = std::make_unique<VolumeEventMonitor>();
 	third.reset();
 	{
 		VolumeEventMonitor second;
 		second.addObserver(&observer);
 		EXPECT_TRUE(second.start());
-		EXPECT_TRUE(log.waitFor("Failed to register WNDCLASS for monitoring volume events"));
+		EXPECT_TRUE(listening.log.waitFor("Failed to register WNDCLASS for monitoring volume events"));
 		EXPECT_FALSE(second.start());
 	}
 	announce(SHCNE_DRIVEREMOVED, L"C:\\");
@@ -119,28 +98,22 @@ TEST(VolumeEventMonitor, ASecondOneIsInertAndHarmsNothing)
 	EXPECT_EQ(observer.events(), (Events{"+C:", "-C:"}));
 
 	third = std::make_unique<VolumeEventMonitor>();
-	first.reset();
+	listening.monitor.reset();
 	third->addObserver(&observer);
 	EXPECT_TRUE(third->start()) << "the class is free again";
 	EXPECT_TRUE(observer.waitFor(3));
-	computer.fail("FindFirstVolumeW", 5);
+	listening.computer.fail("FindFirstVolumeW", 5);
 	Events paths;
 	EXPECT_EQ(third->listMountPoints(paths), 0u);
-	EXPECT_EQ(log.text(), "Failed to register WNDCLASS for monitoring volume events\n"
-						  "Failed to list attached volumes: FindFirstVolume() failed with error code 5\n");
+	EXPECT_EQ(listening.log.text(), "Failed to register WNDCLASS for monitoring volume events\n"
+									"Failed to list attached volumes: FindFirstVolume() failed with error code 5\n");
 	third.reset();
 	EXPECT_FALSE(Kiln::Logger::instance().removeComponent("VolumeEventMonitor"));
 }
 
 TEST(VolumeEventMonitor, ItsWindowTakesNoOtherMessages)
 {
-	const FakeComputer computer({system});
-	WarningLog log;
-	RecordingObserver observer;
-	VolumeEventMonitor monitor;
-	monitor.addObserver(&observer);
-	monitor.start();
-	ASSERT_TRUE(observer.waitFor(1));
+	Listening listening({system});
 	const HWND window = monitorWindow();
 	EXPECT_FALSE(IsWindowVisible(window));
 	WNDCLASSEXW description{};
@@ -152,43 +125,34 @@ TEST(VolumeEventMonitor, ItsWindowTakesNoOtherMessages)
 		EXPECT_EQ(SendMessageW(window, message, 0, 0), 1) << message;
 	}
 	EXPECT_TRUE(IsWindow(window));
-	EXPECT_EQ(observer.events(), Events{"+C:"});
-	EXPECT_EQ(log.text(), "");
+	EXPECT_EQ(listening.observer.events(), Events{"+C:"});
+	EXPECT_EQ(listening.log.text(), "");
 
 	// A window without a monitor gets its first message before it is made, and so is not made.
 	EXPECT_EQ(CreateWindowExW(0, L"VolumeEventMonitor", nullptr, WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
 				  GetModuleHandleW(nullptr), nullptr),
 		nullptr);
-	EXPECT_TRUE(log.text().starts_with("Ignoring message of type 129; no valid VolumeEventMonitor instance\n"));
+	EXPECT_TRUE(
+		listening.log.text().starts_with("Ignoring message of type 129; no valid VolumeEventMonitor instance\n"));
 }
 
 TEST(VolumeEventMonitor, ObserversThatThrowEndNothing)
 {
-	const FakeComputer computer({system, stick});
-	const auto watch = watchBelow();
-	const ImportOverride unlock("SHChangeNotification_Unlock", &SHChangeNotification_Unlock,
-		[real = &SHChangeNotification_Unlock](HANDLE lock) { return real(lock); });
-	const ImportOverride free("CoTaskMemFree", &CoTaskMemFree, [real = &CoTaskMemFree](void* memory) { real(memory); });
-	RecordingObserver observer;
-	observer.onEvent = [] { throw std::runtime_error("an observer's own"); };
-	VolumeEventMonitor monitor;
-	monitor.addObserver(&observer);
-	EXPECT_THROW(monitor.notifyVolumeMounted(Kiln::VolumeMountedNotification(VolumeInfo())), std::runtime_error);
-	monitor.start();
-	ASSERT_TRUE(observer.waitFor(3));
+	const auto unlock = counted("SHChangeNotification_Unlock", &SHChangeNotification_Unlock);
+	const auto free = counted("CoTaskMemFree", &CoTaskMemFree);
+	Listening listening({system, stick}, [] { throw std::runtime_error("an observer's own"); });
 	announce(SHCNE_DRIVEREMOVED, L"E:\\");
 	announce(SHCNE_DRIVEADD, L"E:\\");
-	ASSERT_TRUE(observer.waitFor(5));
-	monitor.removeObserver(&observer);
-	EXPECT_EQ(observer.events(), (Events{"+", "+C:", "+E:", "-E:", "+E:"}));
+	ASSERT_TRUE(listening.observer.waitFor(4));
+	EXPECT_THROW(
+		listening.monitor->notifyVolumeMounted(Kiln::VolumeMountedNotification(VolumeInfo())), std::runtime_error);
+	EXPECT_EQ(listening.observer.events(), (Events{"+C:", "+E:", "-E:", "+E:", "+"}));
 	EXPECT_TRUE(isTrueSoon([&] { return unlock.calls() == 2; }));
 	EXPECT_EQ(free.calls(), 3) << "the watched folder and two paths";
 }
 
 TEST(VolumeEventMonitor, ItsThreadStaysWithoutWindowsForCriticalErrors)
 {
-	const FakeComputer computer({system});
-	const auto watch = watchBelow();
 	std::atomic<DWORD> mode = 0;
 	const ImportOverride translate("TranslateMessage", &TranslateMessage,
 		[&](const MSG*)
@@ -196,14 +160,9 @@ TEST(VolumeEventMonitor, ItsThreadStaysWithoutWindowsForCriticalErrors)
 			mode = GetThreadErrorMode();
 			return FALSE;
 		});
-	RecordingObserver observer;
-	observer.onEvent = [] { SetThreadErrorMode(0, nullptr); };
-	VolumeEventMonitor monitor;
-	monitor.addObserver(&observer);
-	monitor.start();
-	ASSERT_TRUE(observer.waitFor(1));
+	Listening listening({system}, [] { SetThreadErrorMode(0, nullptr); });
 	announce(SHCNE_DRIVEREMOVED, L"C:\\");
-	ASSERT_TRUE(observer.waitFor(2));
+	ASSERT_TRUE(listening.observer.waitFor(2));
 	PostMessageW(monitorWindow(), WM_NULL, 0, 0);
 	EXPECT_TRUE(isTrueSoon([&] { return translate.calls() > 0; }));
 	EXPECT_EQ(mode, static_cast<DWORD>(SEM_FAILCRITICALERRORS));

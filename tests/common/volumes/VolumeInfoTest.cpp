@@ -45,32 +45,22 @@ TEST(VolumeInfo, WritesItsMembersInOrder)
 
 TEST(VolumeInfo, IconAndTransferModeDependOnTheDriveThenOnTheFileSystem)
 {
-	const std::string plain = "/content/images/Hard_Disk_White.png";
-	const std::string apple = "/content/images/Hard_Disk_White_Apple.png";
-	const std::string windows = "/content/images/Hard_Disk_White_Windows.png";
-	const std::pair<FileSystemType, std::string> rows[] = {
-		{FileSystemType::unknown, plain},
-		{FileSystemType::hfs, apple},
-		{FileSystemType::ntfs, windows},
-		{FileSystemType::fat, windows},
-		{FileSystemType::nfs, plain},
-		{FileSystemType::smb, plain},
-		{FileSystemType::afp, plain},
-		{static_cast<FileSystemType>(7), plain},
-	};
-	for (const auto& [type, icon] : rows)
+	// By the number of the file system.
+	const char* const endings[] = {"", "_Apple", "_Windows", "_Windows", "", "", "", ""};
+	for (int type = 0; type < 8; ++type)
 	{
 		for (const int drive : {0, 1, 2, 3})
 		{
 			VolumeInfo volume;
-			volume.fsType = type;
+			volume.fsType = static_cast<FileSystemType>(type);
 			volume.isRemovable = drive & 1;
 			volume.isNetwork = drive & 2;
 			json::Object object;
 			EXPECT_TRUE(volume.toJson(object));
-			EXPECT_EQ(text(object, "displayIcon"), drive == 0 ? icon : plain);
+			const std::string ending = drive == 0 ? endings[type] : "";
+			EXPECT_EQ(text(object, "displayIcon"), "/content/images/Hard_Disk_White" + ending + ".png");
 			EXPECT_EQ(text(object, "preferredTransferMode"), drive == 0 ? "reference" : "copy");
-			EXPECT_EQ(object["fsType"], json::Number(static_cast<double>(type)));
+			EXPECT_EQ(object["fsType"], json::Number(type));
 		}
 	}
 }
