@@ -1,6 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "GuardHeap.h"
 #include "Listening.h"
+#include "Signal.h"
 
 namespace
 {
