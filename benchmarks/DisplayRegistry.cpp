@@ -1,10 +1,8 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // Finding the display record of one client among 64, as every draw of a viewport does.
-#include "Modules/ModuleManager.h"
 #include "Session.h"
 #include "Subject.h"
 #include "TonalithDisplayManager.h"
-#include "TonalithModuleInterface.h"
 #include "UnrealClient.h"
 
 #include <unordered_map>
@@ -12,12 +10,6 @@
 
 namespace
 {
-FTonalithDisplayManager& records()
-{
-	Bench::session();
-	return FModuleManager::LoadModuleChecked<ITonalithModule>("Tonalith").GetDisplayManager();
-}
-
 std::vector<FViewportClient>& clients()
 {
 	static std::vector<FViewportClient> all(64);
@@ -26,7 +18,7 @@ std::vector<FViewportClient>& clients()
 
 void registry(benchmark::State& state)
 {
-	FTonalithDisplayManager& manager = records();
+	FTonalithDisplayManager& manager = Bench::displayRecords();
 	for (FViewportClient& client : clients())
 	{
 		manager.FindOrAddDisplayConfiguration(&client);

@@ -2,6 +2,8 @@
 #include "Session.h"
 
 #include "EditorDriver.h"
+#include "Modules/ModuleManager.h"
+#include "TonalithModuleInterface.h"
 
 #include <filesystem>
 
@@ -17,4 +19,10 @@ FEditorDriver& Bench::session()
 		return started;
 	}();
 	return *driver;
+}
+
+FTonalithDisplayManager& Bench::displayRecords()
+{
+	session();
+	return FModuleManager::LoadModuleChecked<ITonalithModule>("Tonalith").GetDisplayManager();
 }

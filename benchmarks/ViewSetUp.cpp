@@ -2,14 +2,11 @@
 // What each frame of a pane costs that shows a look, beside one that shows none: the view extensions asked and run.
 #include "EditorDriver.h"
 #include "Engine/Engine.h"
-#include "LevelEditorViewport.h"
-#include "Modules/ModuleManager.h"
 #include "SLevelViewport.h"
 #include "SceneView.h"
 #include "Session.h"
 #include "Subject.h"
 #include "TonalithDisplayManager.h"
-#include "TonalithModuleInterface.h"
 #include "TonalithObject.h"
 #include "UObject/UObjectGlobals.h"
 
@@ -20,9 +17,8 @@ void setUp(benchmark::State& state, bool showsLook)
 	const FString pane = TEXT("Bench.Viewport 1.View");
 	Bench::session().OpenPane(pane);
 	FViewport* const viewport = Bench::session().Pane(pane).GetActiveViewport();
-	FTonalithDisplayConfiguration& record = FModuleManager::LoadModuleChecked<ITonalithModule>("Tonalith")
-												.GetDisplayManager()
-												.FindOrAddDisplayConfiguration(viewport->GetClient());
+	FTonalithDisplayConfiguration& record =
+		Bench::displayRecords().FindOrAddDisplayConfiguration(viewport->GetClient());
 	record.bDisplay = showsLook;
 	record.Look = GetMutableDefault<UTonalithObject>();
 	FSceneViewFamily family;

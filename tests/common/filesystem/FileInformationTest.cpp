@@ -1,5 +1,5 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "ImportOverride.h"
+#include "Failing.h"
 #include "TemporaryFolder.h"
 #include <kiln/FileDetails.h>
 #include <kiln/FileInformation.h>
@@ -47,21 +47,11 @@ TEST(FileInformation, OfDeniedFilesIsZero)
 	const std::string path = folder.file("file", 5);
 	for (const DWORD error : {ERROR_ACCESS_DENIED, ERROR_SHARING_VIOLATION, ERROR_NOT_READY})
 	{
-		const ImportOverride denied("CreateFileW", &CreateFileW,
-			[&](const wchar_t*, DWORD, DWORD, SECURITY_ATTRIBUTES*, DWORD, DWORD, HANDLE)
-			{
-				SetLastError(error);
-				return INVALID_HANDLE_VALUE;
-			});
+		const auto denied = failing("CreateFileW", &CreateFileW, error, INVALID_HANDLE_VALUE);
 		EXPECT_EQ(Kiln::fileModificationTime(path), 0);
 		EXPECT_EQ(Kiln::fileCreationTime(path), 0);
 	}
-	const ImportOverride denied("GetFileAttributesExW", &GetFileAttributesExW,
-		[](const wchar_t*, GET_FILEEX_INFO_LEVELS, void*)
-		{
-			SetLastError(ERROR_ACCESS_DENIED);
-			return FALSE;
-		});
+	const auto denied = failing("GetFileAttributesExW", &GetFileAttributesExW, ERROR_ACCESS_DENIED);
 	EXPECT_EQ(Kiln::fileSize(path), 0u);
 }
 
