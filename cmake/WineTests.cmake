@@ -1,8 +1,8 @@
 # Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 # Tests that are Windows programs share one running Wine server; it is started before the first and stopped after the last.
 enable_testing()
-add_test(NAME wine_up COMMAND ${CMAKE_SOURCE_DIR}/cmake/wine-up)
-add_test(NAME wine_down COMMAND wineserver -k)
+add_test(NAME wine_up COMMAND ${CMAKE_SOURCE_DIR}/cmake/wine-server up)
+add_test(NAME wine_down COMMAND ${CMAKE_SOURCE_DIR}/cmake/wine-server down)
 set_tests_properties(wine_up PROPERTIES FIXTURES_SETUP wine TIMEOUT 180)
 set_tests_properties(wine_down PROPERTIES FIXTURES_CLEANUP wine)
 
