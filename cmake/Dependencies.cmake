@@ -37,7 +37,7 @@ add_library(gtest STATIC ${sources}/googletest/src/gtest-all.cc ${sources}/googl
 target_include_directories(gtest SYSTEM PUBLIC ${sources}/googletest/include ${sources}/googlemock/include)
 target_include_directories(gtest PRIVATE ${sources}/googletest ${sources}/googlemock)
 target_compile_features(gtest PRIVATE cxx_std_20)
-target_compile_options(gtest PRIVATE -w)
+target_compile_options(gtest PRIVATE -w -O1 -fno-sanitize=undefined)
 
 if(TONALITH_BENCH)
 	file(GLOB sources ${TONALITH_DEPS}/benchmark/src/*.cc)

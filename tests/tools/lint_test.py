@@ -74,7 +74,7 @@ class LintTest(unittest.TestCase):
 			(source, SOURCE + '#include "Host/Trace.h"\n', f"{source}:6: plug-ins must not include"),
 			("CMakeLists.txt", f"# {MARK}\nset(CMAKE_UNITY_BUILD ON)\n", "CMakeLists.txt:2: own files are compiled"),
 			("CMakePresets.json", '{\n"CMAKE_UNITY_BUILD": true}\n', "CMakePresets.json:2: own files are compiled"),
-			("CMakeLists.txt", f"# {MARK}\ntarget_precompile_headers(x y)\n", "CMakeLists.txt:2: own files are compiled"),
+			("CMakeLists.txt", f"# {MARK}\ntarget_precompile_headers(x y)\n", "CMakeLists.txt:2: the product's files"),
 			(descriptor, "{\n,", f"{descriptor}:2: no JSON"),
 			(descriptor, "[]", f"{descriptor}:1: a descriptor is an object"),
 			(descriptor, plugin(FileVersion=2), f"{descriptor}:{line['FileVersion']}: FileVersion must be 3"),
