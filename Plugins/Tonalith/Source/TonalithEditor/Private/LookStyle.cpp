@@ -8,7 +8,7 @@
 
 namespace
 {
-struct FIcon
+struct FLookIcon
 {
 	/** The editor finds it by the name of the class. */
 	const char* Brush;
@@ -18,14 +18,14 @@ struct FIcon
 	float Size;
 };
 
-constexpr FIcon Icons[] = {
+constexpr FLookIcon Icons[] = {
 	{"ClassThumbnail.TonalithObject", "TonalithIcon_64x", 64.0f},
 	{"ClassIcon.TonalithObject", "TonalithIcon_20x", 20.0f},
 };
 
 void AddIcons(FSlateStyleSet& Style)
 {
-	for (const FIcon& Icon : Icons)
+	for (const FLookIcon& Icon : Icons)
 	{
 		const FString File = Style.RootToContentDir(Icon.File, TEXT(".png"));
 		Style.Set(Icon.Brush, new FSlateImageBrush(File, FVector2f(Icon.Size, Icon.Size)));
