@@ -27,12 +27,8 @@ void AddIcons(FSlateStyleSet& Style)
 {
 	for (const FLookIcon& Icon : Icons)
 	{
-		const FString File = Style.RootToContentDir(Icon.File, TEXT(".png"));
-		Style.Set(Icon.Brush, new FSlateImageBrush(File, FVector2f(Icon.Size, Icon.Size)));
-		if (FPaths::DirectoryExists(FPaths::GetPath(File)) && !FPaths::FileExists(File))
-		{
-			UE_LOG(LogTemp, Warning, TEXT("InitializeStyle: %s is missing"), *File);
-		}
+		Style.Set(Icon.Brush,
+			new FSlateImageBrush(Style.RootToContentDir(Icon.File, TEXT(".png")), FVector2f(Icon.Size, Icon.Size)));
 	}
 }
 } // namespace

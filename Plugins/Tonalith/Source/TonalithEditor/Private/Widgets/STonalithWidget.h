@@ -36,8 +36,8 @@ public:
 	void Construct(const FArguments& InArgs);
 
 	/** The copy's look: one that is deleted meanwhile becomes none. */
-	void AddReferencedObjects(FReferenceCollector& Collector) override;
-	FString GetReferencerName() const override;
+	virtual void AddReferencedObjects(FReferenceCollector& Collector) override;
+	virtual FString GetReferencerName() const override;
 
 private:
 	UToolMenu* FindOrRegisterMenu() const;
