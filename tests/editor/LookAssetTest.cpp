@@ -17,13 +17,9 @@ using testing::HasSubstr;
 namespace
 {
 /** A viewport whose read-back is in the hands of the test. */
-class FFaultyViewport : public FSceneViewport
+struct FFaultyViewport : FSceneViewport
 {
-public:
-	FFaultyViewport(FViewportClient* Client, int32 InPixelCount, bool bInSucceeds)
-		: FSceneViewport(Client), PixelCount(InPixelCount), bSucceeds(bInSucceeds)
-	{
-	}
+	using FSceneViewport::FSceneViewport;
 
 	bool ReadPixels(TArray<FColor>& OutImageData, FReadSurfaceDataFlags, FIntRect) override
 	{
@@ -31,9 +27,8 @@ public:
 		return bSucceeds;
 	}
 
-private:
-	int32 PixelCount;
-	bool bSucceeds;
+	int32 PixelCount = 0;
+	bool bSucceeds = false;
 };
 
 /** All fields but the pixels. */
@@ -159,24 +154,23 @@ TEST_F(LookAsset, TheFlagIsOffFromTheDrawToTheLastLookAndThenAsBefore)
 TEST_F(LookAsset, AFrameThatCannotBeReadOpensNothingAndSaysSo)
 {
 	StartWithPanes();
-	FViewportClient* Client = &Driver.Pane(PaneA).GetLevelViewportClient();
+	const TSharedRef<FFaultyViewport> Viewport =
+		MakeShared<FFaultyViewport>(&Driver.Pane(PaneA).GetLevelViewportClient());
+	Driver.Pane(PaneA).StartPlayInEditorSession(Viewport);
 	Record(PaneA).bDisplay = true;
-	const TSharedRef<FSceneViewport> Empty = MakeShared<FSceneViewport>(Client);
-	Empty->SetFixedViewportSize(0, 0);
-	for (const TSharedRef<FSceneViewport>& Viewport :
-		{TSharedRef<FSceneViewport>(MakeShared<FFaultyViewport>(Client, 0, false)),
-			TSharedRef<FSceneViewport>(MakeShared<FFaultyViewport>(Client, 320 * 180, false)),
-			TSharedRef<FSceneViewport>(MakeShared<FFaultyViewport>(Client, 320 * 180 - 1, true)), Empty})
+	constexpr int32 All = 320 * 180;
+	for (const auto& [bSucceeds, PixelCount] : {std::pair(false, 0), {false, All}, {true, All - 1}})
 	{
-		Driver.Pane(PaneA).StartPlayInEditorSession(Viewport);
+		Viewport->bSucceeds = bSucceeds;
+		Viewport->PixelCount = PixelCount;
 		Driver.OpenAssets({WarmPath, ColdPath});
 		EXPECT_THAT(TakeLog("LogTemp"),
 			ElementsAre("Warning: OpenAssetEditor: Warm is not opened, the viewport's pixels cannot be read",
 				"Warning: OpenAssetEditor: Cold is not opened, the viewport's pixels cannot be read"));
 		EXPECT_TRUE(Driver.Windows().Titles().IsEmpty());
 		EXPECT_EQ(Shown(PaneA), "on 1 no look");
-		Driver.Pane(PaneA).EndPlayInEditorSession();
 	}
+	Driver.Pane(PaneA).EndPlayInEditorSession();
 }
 
 TEST_F(LookAsset, OpeningWithoutAPaneIsFatal)

@@ -3,7 +3,6 @@
 #include "Engine/Engine.h"
 #include "LookTest.h"
 #include "SceneView.h"
-#include "UObject/WeakObjectPtr.h"
 
 #include <limits>
 
@@ -155,24 +154,4 @@ TEST_F(LookPixels, OnlyAPaneWithTheFlagAndALookShowsIt)
 	EXPECT_EQ(Shown(PaneA), "on 1 no look");
 	Driver.ActivatePane(PaneB);
 	EXPECT_TRUE(ShowsPlain());
-}
-
-TEST_F(LookPixels, LooksLiveAsLongAsARecordNamesThem)
-{
-	Start();
-	UTonalithObject* const Looks[] = {
-		NewObject<UTonalithObject>(), NewObject<UTonalithObject>(), NewObject<UTonalithObject>()};
-	const FWeakObjectPtr Displayed = Looks[0];
-	const FWeakObjectPtr Hidden = Looks[1];
-	const FWeakObjectPtr Unused = Looks[2];
-	Record(PaneA) = Configured(true, 1.0f, Looks[0]);
-	Record(PaneB) = Configured(false, 1.0f, Looks[1]);
-	CollectGarbage();
-	EXPECT_NE(Displayed.Get(), nullptr);
-	EXPECT_EQ(Record(PaneB).Look, Hidden.Get());
-	EXPECT_NE(Hidden.Get(), nullptr);
-	EXPECT_EQ(Unused.Get(), nullptr);
-	Record(PaneA).Look = nullptr;
-	CollectGarbage();
-	EXPECT_EQ(Displayed.Get(), nullptr);
 }

@@ -65,7 +65,7 @@ TEST_F(PlayInEditor, TheRecordAndItsHoldOnTheLookEndWithTheSession)
 {
 	UTonalithObject* const Made = NewObject<UTonalithObject>();
 	const FWeakObjectPtr Weak = Made;
-	Record(PaneA) = Configured(true, 1.0f, Made);
+	Record(PaneA) = Configured(false, 1.0f, Made);
 	Driver.PlayInPane();
 	const FViewportClient* const Client = GEditor->GetPIEViewport()->GetClient();
 	Record(PaneA).Look = nullptr;
