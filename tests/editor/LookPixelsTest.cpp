@@ -1,22 +1,45 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// Looks as pixels of the panes that show them.
-#include "ImportOverride.h"
+// Looks in the settings of views and as pixels of the panes that show them.
+#include "Engine/Engine.h"
 #include "LookTest.h"
-#include "UObject/WeakObjectPtr.h"
-#include "ViewportClient.h"
+#include "SceneView.h"
 
 #include <limits>
 
-using testing::Contains;
-using testing::Not;
-
 namespace
 {
-/** Where the chart's patches and its ramp lie. */
-constexpr int32 Skin = 4 * 16 + 12;
-constexpr int32 Red = 4 * 16;
-constexpr int32 White = 7 * 16 + 15;
-constexpr int32 Black = 7 * 16;
+constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+
+/** One line a control: its four values, and an exclamation mark when they override the scene's. */
+std::string Text(const FPostProcessSettings& Settings)
+{
+	std::ostringstream Text;
+	const auto Add = [&Text](bool bOverride, const FVector4& Value)
+	{ Text << Value.X << " " << Value.Y << " " << Value.Z << " " << Value.W << (bOverride ? "!\n" : "\n"); };
+	Add(Settings.bOverride_ColorSaturation, Settings.ColorSaturation);
+	Add(Settings.bOverride_ColorContrast, Settings.ColorContrast);
+	Add(Settings.bOverride_ColorGamma, Settings.ColorGamma);
+	Add(Settings.bOverride_ColorGain, Settings.ColorGain);
+	Add(Settings.bOverride_ColorOffset, Settings.ColorOffset);
+	return Text.str();
+}
+
+const std::string Neutral = "1 1 1 1\n1 1 1 1\n1 1 1 1\n1 1 1 1\n0 0 0 0\n";
+
+/** What the extensions that are active for a viewport make of the views of a target. */
+FPostProcessSettings Settings(FViewport* Asked, const FRenderTarget* Target, const FVector4& Gain = {1, 1, 1, 1})
+{
+	FSceneViewFamily Family;
+	Family.RenderTarget = Target;
+	FSceneView View;
+	View.FinalPostProcessSettings.ColorGain = Gain;
+	for (const auto& Extension : GEngine->ViewExtensions->GatherActiveExtensions({Asked}))
+	{
+		Extension->SetupView(Family, View);
+	}
+	return View.FinalPostProcessSettings;
+}
 } // namespace
 
 class LookPixels : public FLookTest
@@ -31,75 +54,83 @@ protected:
 
 	bool ShowsPlain() { return IsSamePicture(Driver.TakePicture(), Plain); }
 
-	/** The next frame with one control at a value. */
-	FPicture With(FVector4 UTonalithObject::*Control, const FVector4& Value)
-	{
-		const FVector4 Before = Warm()->*Control;
-		Warm()->*Control = Value;
-		const FPicture Picture = Driver.TakePicture();
-		Warm()->*Control = Before;
-		return Picture;
-	}
+	FViewport* Viewport(const TCHAR* Pane) { return Driver.Pane(Pane).GetLevelViewportClient().Viewport; }
+
+	/** Of the next view of the first pane. */
+	std::string NextView() { return Text(Settings(Viewport(PaneA), Viewport(PaneA))); }
 
 	FPicture Plain;
 };
 
-TEST_F(LookPixels, EachControlGradesInLinearLight)
+TEST_F(LookPixels, EachControlIsBlendedIntoItsSettingByTheWeight)
 {
 	Start();
 	EXPECT_TRUE(ShowsPlain()) << "the defaults change nothing";
+	Warm()->Saturation = FVector4(0.25, 0.5, 0.75, 1.25);
+	Warm()->Contrast = FVector4(1.5, 1.75, 2, 2.25);
+	Warm()->Gamma = FVector4(2.5, 2.75, 3, 3.25);
+	Warm()->Gain = FVector4(3.5, 3.75, 4, 4.25);
+	Warm()->Offset = FVector4(-0.25, -0.5, -0.75, -1);
+	EXPECT_EQ(NextView(), "0.25 0.5 0.75 1.25!\n1.5 1.75 2 2.25!\n2.5 2.75 3 3.25!\n3.5 3.75 4 4.25!\n"
+						  "-0.25 -0.5 -0.75 -1!\n");
+	EXPECT_FALSE(ShowsPlain());
 	const struct
 	{
-		FVector4 UTonalithObject::*Control;
-		FVector4 Value;
-		int32 Pixel;
-		FColor Expected;
-	} Rows[] = {
-		// The luminance of pure red is 0.2126, stored as 127.
-		{&UTonalithObject::Saturation, {1, 1, 1, 0}, Red, {127, 127, 127, 0}},
-		// 194, 150, 130 are 0.5395, 0.3050, 0.2232 in linear light; their luminance 0.3489.
-		{&UTonalithObject::Saturation, {1, 1, 1, 0}, Skin, {159, 159, 159, 0}},
-		// Half of the way to the luminance: 0.4442, 0.3270, 0.2861.
-		{&UTonalithObject::Saturation, {1, 1, 1, 0.5}, Skin, {178, 155, 146, 0}},
-		// (0.5395 / 0.18)^2 * 0.18 = 1.6169; 0.5168; 0.2768.
-		{&UTonalithObject::Contrast, {1, 1, 1, 2}, Skin, {255, 190, 144, 0}},
-		// The square root: 0.7345, 0.5523, 0.4724.
-		{&UTonalithObject::Gamma, {1, 1, 1, 2}, Skin, {223, 196, 183, 0}},
-		// 0.5395 / 2, and green and blue as they are.
-		{&UTonalithObject::Gain, {0.5, 1, 1, 1}, Skin, {142, 150, 130, 0}},
-		// All scaled by W: 0.1349, 0.1525, 0.1116.
-		{&UTonalithObject::Gain, {0.5, 1, 1, 0.5}, Skin, {103, 109, 94, 0}},
-		// 0.2 and 0.1 more: 0.8395, 0.4050, 0.3232.
-		{&UTonalithObject::Offset, {0.2, 0, 0, 0.1}, Skin, {236, 171, 154, 0}},
-		{&UTonalithObject::Offset, {0, 0, 0, -0.5}, Black, {0, 0, 0, 0}},
-		{&UTonalithObject::Gain, {1, 1, 1, 2}, White, {255, 255, 255, 0}},
-	};
+		float Weight;
+		double Gain;
+	} Rows[] = {{1, 3.5}, {0.5f, 4.75}, {0, 6}, {-1, 6}, {7, 3.5}, {static_cast<float>(NaN), 6}};
 	for (const auto& Row : Rows)
 	{
-		const FPicture Picture = With(Row.Control, Row.Value);
-		EXPECT_EQ(Picture.Pixels[Row.Pixel], Row.Expected)
-			<< int(Picture.Pixels[Row.Pixel].R) << " " << int(Picture.Pixels[Row.Pixel].G) << " "
-			<< int(Picture.Pixels[Row.Pixel].B);
+		Record(PaneA).Weight = Row.Weight;
+		EXPECT_EQ(Settings(Viewport(PaneA), Viewport(PaneA), {6, 6, 6, 6}).ColorGain.X, Row.Gain) << Row.Weight;
 	}
-	Driver.Quit();
+	EXPECT_TRUE(ShowsPlain());
 }
 
-TEST_F(LookPixels, TheWeightBlendsTheControls)
+TEST_F(LookPixels, BadValuesAreTakenAsTheNearestGoodOnes)
 {
 	Start();
-	Warm()->Gain = FVector4(0.5, 1, 1, 1);
-	const FPicture Full = Driver.TakePicture();
-	// Half of the way from 1 to 0.5: 0.5395 * 0.75 = 0.4046.
-	Record(PaneA).Weight = 0.5f;
-	EXPECT_EQ(Driver.TakePicture().Pixels[Skin], FColor(171, 150, 130, 0));
-	for (const float Nothing : {0.0f, -1.0f, std::numeric_limits<float>::quiet_NaN()})
+	const struct
 	{
-		Record(PaneA).Weight = Nothing;
-		EXPECT_TRUE(ShowsPlain());
+		double Value;
+		const char* Factor;
+		const char* Gamma;
+		const char* Offset;
+	} Rows[] = {{NaN, "1", "1", "0"}, {Infinity, "1", "1", "0"}, {1e300, "8", "8", "8"}, {0, "0", "0.01", "0"},
+		{-1, "0", "0.01", "-1"}, {-1e300, "0", "0.01", "-8"}};
+	const auto Line = [](const std::string& Value) { return Value + " " + Value + " " + Value + " " + Value + "!\n"; };
+	for (const auto& Row : Rows)
+	{
+		for (FVector4 UTonalithObject::*Control : {&UTonalithObject::Saturation, &UTonalithObject::Contrast,
+				 &UTonalithObject::Gamma, &UTonalithObject::Gain, &UTonalithObject::Offset})
+		{
+			Warm()->*Control = FVector4(Row.Value, Row.Value, Row.Value, Row.Value);
+		}
+		EXPECT_EQ(
+			NextView(), Line(Row.Factor) + Line(Row.Factor) + Line(Row.Gamma) + Line(Row.Factor) + Line(Row.Offset));
+		Driver.TakePicture();
 	}
-	Record(PaneA).Weight = 7.0f;
-	EXPECT_TRUE(IsSamePicture(Driver.TakePicture(), Full));
-	Driver.Quit();
+}
+
+TEST_F(LookPixels, OnlyTheViewsOfTheViewportItselfAreGraded)
+{
+	Start();
+	Warm()->Gain = FVector4(1, 1, 1, 0.5);
+	const auto Extensions = GEngine->ViewExtensions->GatherActiveExtensions({Viewport(PaneA)});
+	ASSERT_EQ(Extensions.Num(), 1);
+	EXPECT_NE(NextView(), Neutral);
+	EXPECT_EQ(Text(Settings(Viewport(PaneA), Viewport(PaneB))), Neutral);
+	EXPECT_EQ(Text(Settings(Viewport(PaneA), nullptr)), Neutral);
+	for (FViewport* Other : {Viewport(PaneB), static_cast<FViewport*>(nullptr)})
+	{
+		EXPECT_EQ(Text(Settings(Other, Viewport(PaneA))), Neutral);
+		// A family that was set up before another viewport was asked for.
+		FSceneViewFamily Family;
+		Family.RenderTarget = Other ? Viewport(PaneA) : nullptr;
+		FSceneView View;
+		Extensions[0]->SetupView(Family, View);
+		EXPECT_EQ(Text(View.FinalPostProcessSettings), Neutral);
+	}
 }
 
 TEST_F(LookPixels, OnlyAPaneWithTheFlagAndALookShowsIt)
@@ -120,89 +151,7 @@ TEST_F(LookPixels, OnlyAPaneWithTheFlagAndALookShowsIt)
 	HostAssets::Delete(*Warm());
 	EXPECT_TRUE(ShowsPlain());
 	CollectGarbage();
-	EXPECT_EQ(Record(PaneA).Look, nullptr);
+	EXPECT_EQ(Shown(PaneA), "on 1 no look");
 	Driver.ActivatePane(PaneB);
 	EXPECT_TRUE(ShowsPlain());
-	Driver.Quit();
-}
-
-TEST_F(LookPixels, BadValuesAreTakenAsTheNearestGoodOnes)
-{
-	Start();
-	constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
-	constexpr double Infinity = std::numeric_limits<double>::infinity();
-	for (FVector4 UTonalithObject::*Control : {&UTonalithObject::Saturation, &UTonalithObject::Contrast,
-			 &UTonalithObject::Gamma, &UTonalithObject::Gain, &UTonalithObject::Offset})
-	{
-		EXPECT_TRUE(IsSamePicture(With(Control, {NaN, Infinity, -Infinity, NaN}), Plain));
-		for (const double Wild : {-1e300, -1.0, 0.0, 1e300})
-		{
-			With(Control, {Wild, Wild, Wild, Wild});
-		}
-	}
-	EXPECT_TRUE(IsSamePicture(
-		With(&UTonalithObject::Saturation, {-5, -5, -5, 1}), With(&UTonalithObject::Saturation, {0, 0, 0, 1})));
-	Driver.Quit();
-}
-
-TEST_F(LookPixels, AFrameForTheLooksWindowShowsNoLook)
-{
-	Start();
-	Warm()->Gain = FVector4(1, 1, 1, 0.5);
-	EXPECT_FALSE(ShowsPlain());
-	Driver.OpenAssets({WarmPath});
-	EXPECT_TRUE(IsSamePicture(Driver.Windows().Picture(TEXT("Warm")), Plain));
-	EXPECT_FALSE(ShowsPlain());
-	Driver.Quit();
-}
-
-TEST_F(LookPixels, LooksLiveAsLongAsARecordNamesThem)
-{
-	Start();
-	const FWeakObjectPtr Shown = NewObject<UTonalithObject>();
-	const FWeakObjectPtr Hidden = NewObject<UTonalithObject>();
-	const FWeakObjectPtr Unused = NewObject<UTonalithObject>();
-	Record(PaneA) = Configured(true, 1.0f, static_cast<UTonalithObject*>(Shown.Get()));
-	Record(PaneB) = Configured(false, 1.0f, static_cast<UTonalithObject*>(Hidden.Get()));
-	CollectGarbage();
-	EXPECT_EQ(Record(PaneA).Look, Shown.Get());
-	EXPECT_NE(Shown.Get(), nullptr);
-	EXPECT_EQ(Record(PaneB).Look, Hidden.Get());
-	EXPECT_NE(Hidden.Get(), nullptr);
-	EXPECT_EQ(Unused.Get(), nullptr);
-	EXPECT_TRUE(ShowsPlain());
-	Record(PaneA).Look = nullptr;
-	CollectGarbage();
-	EXPECT_EQ(Shown.Get(), nullptr);
-	Driver.Quit();
-}
-
-TEST_F(LookPixels, FramesAllocateNothingInTheModule)
-{
-	Start();
-	const HMODULE Library = GetModuleHandleW(TEXT("UnrealEditor-Tonalith.dll"));
-	const ImportOverride allocation(
-		"_Znwy", static_cast<void* (*)(size_t)>(nullptr), [](size_t Size) { return ::operator new(Size); }, Library);
-	for (const bool bDisplay : {true, false})
-	{
-		Record(PaneA).bDisplay = bDisplay;
-		for (int Frame = 0; Frame < 10; ++Frame)
-		{
-			Driver.TakePicture();
-		}
-		EXPECT_EQ(allocation.calls(), 0);
-	}
-	FViewportClient Another;
-	DisplayRecords().FindOrAddDisplayConfiguration(&Another);
-	EXPECT_GT(allocation.calls(), 0) << "what the module allocates is counted";
-	DisplayRecords().RemoveDisplayConfiguration(&Another);
-	Driver.Quit();
-}
-
-TEST_F(LookPixels, ACommandletHasNoExtension)
-{
-	Options.bIsCommandlet = true;
-	Driver.Start(Options);
-	EXPECT_THAT(TakeTrace(), Not(Contains("register view extension")));
-	Driver.Quit();
 }

@@ -7,9 +7,6 @@
 #include "Widgets/SBoxPanel.h"
 #include "Widgets/STonalithWidget.h"
 
-using testing::ExitedWithCode;
-using testing::HasSubstr;
-
 class LookWidget : public FEditorTest
 {
 };
@@ -17,31 +14,30 @@ class LookWidget : public FEditorTest
 TEST_F(LookWidget, NeedsAViewportAndNothingElse)
 {
 	Driver.Start(Options);
-	EXPECT_EXIT(SNew(STonalithWidget), ExitedWithCode(3), HasSubstr("Assertion failed: Viewport "));
+	EXPECT_EXIT(SNew(STonalithWidget), testing::ExitedWithCode(3), testing::HasSubstr("Assertion failed: Viewport "));
 	Driver.OpenPane(TEXT("A"));
 	const TSharedRef<STonalithWidget> Widget =
 		SNew(STonalithWidget).Viewport(Driver.Pane(TEXT("A")).GetActiveViewport());
-	bool bHasPaddedBox = false;
+	int PaddedSlots = 0;
 	TSharedPtr<SMenuRow> Toggle;
 	Widget->ForEachWidget(
 		[&](SWidget& Child)
 		{
 			for (const FSlotBase* Slot : Child.GetSlots())
 			{
-				bHasPaddedBox =
-					bHasPaddedBox || (dynamic_cast<SVerticalBox*>(&Child) && Slot->SlotPadding.Right == 4.0f);
+				const FMargin& Space = Slot->SlotPadding;
+				PaddedSlots += Space.Left == 0.0f && Space.Top == 0.0f && Space.Right == 4.0f && Space.Bottom == 0.0f;
 			}
 			if (SMenuRow* Row = dynamic_cast<SMenuRow*>(&Child); Row && Row->GetKind() == EMenuRow::Toggle)
 			{
 				Toggle = StaticCastSharedRef<SMenuRow>(Row->AsShared());
 			}
 		});
-	EXPECT_TRUE(bHasPaddedBox);
+	EXPECT_EQ(PaddedSlots, 1);
 
 	// Nobody listens.
 	ASSERT_TRUE(Toggle.IsValid());
 	EXPECT_FALSE(Toggle->IsChecked());
 	Toggle->ClickCheckBox();
 	EXPECT_TRUE(Toggle->IsChecked());
-	Driver.Quit();
 }

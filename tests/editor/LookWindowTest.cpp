@@ -7,21 +7,20 @@
 using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
 class LookWindow : public FLookTest
 {
 protected:
-	FLines Titles()
+	std::string Titles()
 	{
-		FLines Titles;
+		FString Titles;
 		for (const FString& Title : Driver.Windows().Titles())
 		{
-			Titles.push_back(TCHAR_TO_UTF8(*Title));
+			Titles += TEXT("|") + Title;
 		}
-		return Titles;
+		return TCHAR_TO_UTF8(*Titles);
 	}
 };
 
@@ -33,7 +32,6 @@ TEST_F(LookWindow, IsOneForEachLookAndComesToTheFrontWithTheNewPicture)
 		ElementsAre(StartsWith("draw viewport"), "read pixels", "open window Warm", "bring window Warm to front",
 			"read pixels", "open window Cold", "bring window Cold to front"));
 	const FPicture Before = Driver.Windows().Picture(TEXT("Warm"));
-	EXPECT_TRUE(IsSamePicture(Before, Driver.TakePicture()));
 
 	Driver.ResizePane(PaneA, FIntPoint(9, 5));
 	TakeTrace();
@@ -43,11 +41,9 @@ TEST_F(LookWindow, IsOneForEachLookAndComesToTheFrontWithTheNewPicture)
 	EXPECT_TRUE(IsSamePicture(Driver.Windows().Picture(TEXT("Cold")), Before)) << "the other one keeps its own";
 
 	Driver.Windows().Close(TEXT("Warm"));
-	EXPECT_THAT(Titles(), ElementsAre("Cold"));
+	EXPECT_EQ(Titles(), "|Cold");
 	Driver.OpenAssets({WarmPath});
-	EXPECT_THAT(Titles(), ElementsAre("Cold", "Warm"));
-	Driver.Quit();
-	EXPECT_THAT(TakeTrace(), AllOf(Contains("close window Warm"), Contains("close window Cold")));
+	EXPECT_EQ(Titles(), "|Cold|Warm");
 }
 
 TEST_F(LookWindow, EditsShowInEveryViewportAndAreSaved)
@@ -57,25 +53,23 @@ TEST_F(LookWindow, EditsShowInEveryViewportAndAreSaved)
 	Record(PaneA) = Configured(true, 1.0f, Warm());
 	Driver.OpenAssets({WarmPath});
 	EXPECT_FALSE(Warm()->GetPackage()->IsDirty());
-	TakeTrace();
 	for (const TCHAR* Control : {TEXT("Saturation"), TEXT("Contrast"), TEXT("Gamma"), TEXT("Gain"), TEXT("Offset")})
 	{
-		Driver.Windows().EditProperty(TEXT("Warm"), Control, TEXT("(X=0.5,Y=0.5,Z=1.0,W=0.75)"));
-		EXPECT_EQ(TakeTrace(), FLines());
-		Driver.Windows();
-		EXPECT_THAT(TakeTrace(), ElementsAre(StartsWith("draw viewport"), StartsWith("draw viewport")));
-		EXPECT_FALSE(IsSamePicture(Driver.TakePicture(), Plain));
-		Driver.Windows().EditProperty(TEXT("Warm"), Control,
-			FString(Control).Equals(TEXT("Offset")) ? TEXT("(X=0,Y=0,Z=0,W=0)") : TEXT("(X=1,Y=1,Z=1,W=1)"));
-		EXPECT_TRUE(IsSamePicture(Driver.TakePicture(), Plain));
-		Driver.Windows();
-		TakeTrace();
+		const FString Neutral =
+			FString(Control).Equals(TEXT("Offset")) ? TEXT("(X=0,Y=0,Z=0,W=0)") : TEXT("(X=1,Y=1,Z=1,W=1)");
+		for (const FString& Value : {FString(TEXT("(X=0.5,Y=0.5,Z=1.0,W=0.75)")), Neutral})
+		{
+			TakeTrace();
+			Driver.Windows().EditProperty(TEXT("Warm"), Control, Value);
+			Driver.Windows();
+			EXPECT_THAT(TakeTrace(), ElementsAre(StartsWith("draw viewport"), StartsWith("draw viewport")));
+			EXPECT_EQ(IsSamePicture(Driver.TakePicture(), Plain), Value == Neutral);
+		}
 	}
 	EXPECT_THROW(Driver.Windows().EditProperty(TEXT("Warm"), TEXT("Window"), TEXT("1")), FDriverError);
-	EXPECT_TRUE(Warm()->GetPackage()->IsDirty());
 	Driver.Quit();
-	EXPECT_THAT(TakeTrace(),
-		AllOf(Contains("save asset /Game/Looks/Warm.Warm"), Not(Contains("save asset /Game/Looks/Cold.Cold"))));
+	EXPECT_THAT(TakeTrace(), AllOf(Contains("close window Warm"), Contains("save asset /Game/Looks/Warm.Warm"),
+								 Not(Contains("save asset /Game/Looks/Cold.Cold"))));
 }
 
 TEST_F(LookWindow, ClosesWithItsLookAndOutlivesThePane)
@@ -90,23 +84,20 @@ TEST_F(LookWindow, ClosesWithItsLookAndOutlivesThePane)
 	EXPECT_FALSE(IsSamePicture(Driver.TakePicture(), Picture));
 
 	HostAssets::Delete(*Warm());
-	EXPECT_THAT(Titles(), ElementsAre("", "Cold"));
+	EXPECT_EQ(Titles(), "||Cold");
 	CollectGarbage();
-	EXPECT_THAT(Titles(), ElementsAre("Cold"));
+	EXPECT_EQ(Titles(), "|Cold");
 	EXPECT_TRUE(IsSamePicture(Driver.TakePicture(), Picture));
 	Driver.ClosePane(PaneB);
-	Driver.Quit();
 }
 
 TEST_F(LookWindow, NeedsAUserInterface)
 {
 	Options.bIsCommandlet = true;
 	Driver.Start(Options);
+	EXPECT_THAT(TakeTrace(), Not(Contains("register view extension")));
 	const uint8 Pixel[4] = {};
-	FTonalithAPI_ImageDesc Image;
-	Image.Pixels = Pixel;
-	Image.Width = Image.Height = Image.RowLength = 1;
+	FTonalithAPI_ImageDesc Image{.Version = 1, .Pixels = Pixel, .Width = 1, .Height = 1, .RowLength = 1};
+	Image.ValueScale = Image.ExposureScale = Image.Maximum = 1.0f;
 	Warm()->DisplayUserInterface(Image);
-	EXPECT_THAT(TakeLog("LogTemp"), IsEmpty());
-	Driver.Quit();
 }

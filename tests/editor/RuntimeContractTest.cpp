@@ -3,10 +3,9 @@
 #include "LookTest.h"
 #include "UnrealClient.h"
 
-#include <filesystem>
-#include <fstream>
+using testing::ElementsAre;
 
-class RuntimeContract : public FEditorTest
+class RuntimeContract : public FLookTest
 {
 };
 
@@ -17,10 +16,9 @@ TEST_F(RuntimeContract, RecordsStayWhereTheyAreUntilRemoved)
 	std::vector<FTonalithDisplayConfiguration*> Records;
 	for (FViewportClient& Client : Clients)
 	{
-		EXPECT_EQ(DisplayRecords().GetDisplayConfiguration(&Client), nullptr);
+		EXPECT_FALSE(HasRecord(&Client));
 		Records.push_back(&DisplayRecords().FindOrAddDisplayConfiguration(&Client));
-		EXPECT_FALSE(Records.back()->bDisplay);
-		EXPECT_EQ(Records.back()->Look.Get(), nullptr);
+		EXPECT_EQ(RecordText(*Records.back()), "off 1 no look");
 	}
 	for (size_t Index = 0; Index < Clients.size(); Index += 2)
 	{
@@ -31,7 +29,6 @@ TEST_F(RuntimeContract, RecordsStayWhereTheyAreUntilRemoved)
 	{
 		EXPECT_EQ(DisplayRecords().GetDisplayConfiguration(&Clients[Index]), Index % 2 ? Records[Index] : nullptr);
 	}
-	Driver.Quit();
 }
 
 TEST_F(RuntimeContract, TheRegistryIsTheFirstOwnVirtualFunction)
@@ -43,38 +40,35 @@ TEST_F(RuntimeContract, TheRegistryIsTheFirstOwnVirtualFunction)
 	};
 	Driver.Start(Options);
 	EXPECT_EQ(FModuleManager::LoadModuleChecked<IAnyModule>("Tonalith").FirstOwn(), &DisplayRecords());
-	Driver.Quit();
 }
 
-namespace
+TEST_F(RuntimeContract, TheModuleIsReachedAnewAtEachUse)
 {
-/** The plug-in without its runtime module: the library is there, but nothing says whose it is. */
-FString StageWithoutRuntime()
-{
-	namespace fs = std::filesystem;
-	const fs::path Root = fs::temp_directory_path() / L"tonalith-without-runtime";
-	const fs::path Binaries = Root / L"Tonalith/Binaries/Win64";
-	fs::remove_all(Root);
-	fs::create_directories(Binaries);
-	for (const wchar_t* Library : {L"UnrealEditor-Tonalith.dll", L"UnrealEditor-TonalithEditor.dll"})
-	{
-		fs::copy(fs::path(TEXT(EDITOR_TEST_PLUGINS)) / L"Tonalith/Binaries/Win64" / Library, Binaries / Library);
-	}
-	std::ofstream(Root / L"Tonalith/Tonalith.uplugin")
-		<< R"({"Modules": [{"Name": "TonalithEditor", "Type": "Editor", "LoadingPhase": "Default"}]})";
-	std::ofstream(Binaries / L"UnrealEditor.modules")
-		<< R"({"BuildId": "headless", "Modules": {"TonalithEditor": "UnrealEditor-TonalithEditor.dll"}})";
-	return Root.generic_wstring().c_str();
+	StartWithPanes();
+	OpenLookMenu();
+	Record(PaneA) = Configured(false, 0.25f, Warm());
+	TakeTrace();
+	Driver.UnloadModule(TEXT("Tonalith"));
+	FModuleManager::Get().LoadModuleChecked("Tonalith");
+	EXPECT_THAT(TakeTrace(),
+		ElementsAre("shut down module Tonalith", "unbind FCoreDelegates::OnPostEngineInit (1)",
+			"unbind FEditorDelegates::ShutdownPIE (1)", "unbind UEditorEngine::OnViewportClientListChanged (1)",
+			"start module Tonalith", "bind FCoreDelegates::OnPostEngineInit", "register view extension",
+			"bind UEditorEngine::OnViewportClientListChanged", "bind FEditorDelegates::ShutdownPIE"));
+	EXPECT_FALSE(HasRecord(&Driver.Pane(PaneA).GetLevelViewportClient()));
+	Driver.Menus().ClickCheckBox(TEXT("EnableDisplay"));
+	EXPECT_EQ(Shown(PaneA), "on 1 no look");
 }
-} // namespace
 
 TEST_F(RuntimeContract, WithoutTheRuntimeModuleThePaneIsFatal)
 {
-	Options.PluginFolders[0] = StageWithoutRuntime();
 	EXPECT_EXIT(
 		{
 			Driver.Start(Options);
-			Driver.OpenPane(TEXT("OnePane.Viewport 1.Viewport0"));
+			Driver.UnloadModule(TEXT("Tonalith"));
+			FModuleManager::Get().RegisterStaticallyLinkedModule(
+				"Tonalith", []() -> IModuleInterface* { return nullptr; });
+			Driver.OpenPane(PaneA);
 		},
 		testing::ExitedWithCode(3),
 		testing::AllOf(testing::HasSubstr("Assertion failed: Module "), testing::HasSubstr("ModuleName=Tonalith,")));

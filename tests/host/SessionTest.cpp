@@ -89,13 +89,14 @@ TEST_F(Session, PlayEventsComeInTheEnginesOrder)
 	Driver.PlayInPane();
 	EXPECT_THAT(TakeProbe(),
 		ElementsAre("StartPIE: play viewport no", "PreBeginPIE: play viewport no", "BeginPIE: play viewport no",
-			"world of type 3", "game viewport: client matches yes, active viewport plays yes",
+			"world of type 3", "game viewport: client matches yes, active viewport plays yes, in 1 of 2 worlds",
 			"PostPIEStarted: play viewport yes"));
 	Driver.EndPlay();
 	EXPECT_THAT(TakeProbe(),
 		ElementsAre("PrePIEEnded: play viewport yes", "EndPIE: play viewport yes", "ShutdownPIE: play viewport no"));
 	Driver.PlayInWindow();
-	EXPECT_THAT(TakeProbe(), testing::Contains("game viewport: client matches yes, active viewport plays no"));
+	EXPECT_THAT(TakeProbe(),
+		testing::Contains("game viewport: client matches yes, active viewport plays no, in 1 of 2 worlds"));
 	Driver.EndPlay();
 	TakeProbe();
 

@@ -3,6 +3,7 @@
 
 #include "Misc/OutputDeviceRedirector.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <windows.h>
 
@@ -26,6 +27,20 @@ FEditorTest::~FEditorTest()
 	GLog->RemoveOutputDevice(this);
 	std::error_code Ignored;
 	std::filesystem::remove_all(*Options.ProjectFolder, Ignored);
+}
+
+void FEditorTest::TearDown()
+{
+	if (Driver.IsRunning())
+	{
+		Driver.Quit();
+	}
+	for (const FLine& Line : Lines)
+	{
+		const bool bIsFault = Line.Text.starts_with("Warning: ") || Line.Text.starts_with("Error: ");
+		EXPECT_FALSE(bIsFault && std::ranges::find(Harmless, Line.Text) == Harmless.end())
+			<< Line.Category << ": " << Line.Text;
+	}
 }
 
 void FEditorTest::Serialize(const TCHAR* Text, ELogVerbosity::Type Verbosity, const FName& Category)

@@ -1,5 +1,5 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// A test that runs one editor session with the plug-in: its registry, its library, two panes and two looks to use.
+// A test that runs one editor session with the plug-in: its registry, its library, its menu, two panes and two looks.
 #pragma once
 
 #include "EditorTest.h"
@@ -10,6 +10,7 @@
 #include "TonalithModuleInterface.h"
 #include "UObject/UObjectGlobals.h"
 
+#include <sstream>
 #include <windows.h>
 
 inline FTonalithDisplayConfiguration Configured(bool bDisplay, float Weight, UTonalithObject* Look)
@@ -19,6 +20,15 @@ inline FTonalithDisplayConfiguration Configured(bool bDisplay, float Weight, UTo
 	Configuration.Weight = Weight;
 	Configuration.Look = Look;
 	return Configuration;
+}
+
+/** Such as "on 0.25 Warm" or "off 1 no look". */
+inline std::string RecordText(const FTonalithDisplayConfiguration& Record)
+{
+	std::ostringstream Text;
+	Text << (Record.bDisplay ? "on " : "off ") << Record.Weight << " "
+		 << (Record.Look ? TCHAR_TO_UTF8(*Record.Look->GetName()) : "no look");
+	return Text.str();
 }
 
 /** The runtime module's registry, as the modules beside it reach it. */
@@ -38,6 +48,7 @@ protected:
 
 	FLookTest()
 	{
+		Harmless = {"Warning: OnLevelViewportClientListChanged", "Warning: SetupViewportDisplaySettings"};
 		for (const TCHAR* Path : {WarmPath, ColdPath})
 		{
 			HostAssets::Write(Options.ProjectFolder, TEXT("/Script/Tonalith.TonalithObject"), Path);
@@ -61,6 +72,16 @@ protected:
 	FTonalithDisplayConfiguration& Record(const TCHAR* Pane)
 	{
 		return DisplayRecords().FindOrAddDisplayConfiguration(&Driver.Pane(Pane).GetLevelViewportClient());
+	}
+
+	std::string Shown(const TCHAR* Pane) { return RecordText(Record(Pane)); }
+
+	static bool HasRecord(const FViewportClient* Client) { return DisplayRecords().GetDisplayConfiguration(Client); }
+
+	void OpenLookMenu()
+	{
+		Driver.Menus().OpenViewMenu();
+		Driver.Menus().OpenSubMenu(TEXT("TNLDisplaySubMenu"));
 	}
 
 	static UTonalithObject* Warm() { return Look(WarmPath); }

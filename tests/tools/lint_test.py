@@ -16,6 +16,8 @@ PLUGIN = {
 	"Modules": [MODULE],
 }
 SOURCE = f"// {MARK}\nint two()\n{{\n\treturn 2;\n}}\n"
+ALLOW = '#include "Windows/AllowWindowsPlatformTypes.h"\n\n'
+HIDE = '#include "Windows/HideWindowsPlatformTypes.h"\n'
 CLEAN = {
 	".clang-format": "{UseTab: Always, TabWidth: 4, IndentWidth: 4, BreakBeforeBraces: Allman,"
 		" AllowShortFunctionsOnASingleLine: None}\n",
@@ -72,6 +74,8 @@ class LintTest(unittest.TestCase):
 			(source, SOURCE + "// line\n" * 396, f"{source}:401: 401 lines"),
 			(source, SOURCE + "#if defined(HEADLESS_EDITOR)\n#endif\n", f"{source}:6: plug-ins must not tell"),
 			(source, SOURCE + '#include "Host/Trace.h"\n', f"{source}:6: plug-ins must not include"),
+			(source, SOURCE + "#include <windows.h>\n", f"{source}:6: a platform header stands between"),
+			(source, SOURCE + ALLOW + HIDE + "\n#include <shlobj.h>\n", f"{source}:10: a platform header stands between"),
 			("CMakeLists.txt", f"# {MARK}\nset(CMAKE_UNITY_BUILD ON)\n", "CMakeLists.txt:2: own files are compiled"),
 			("CMakePresets.json", '{\n"CMAKE_UNITY_BUILD": true}\n', "CMakePresets.json:2: own files are compiled"),
 			("CMakeLists.txt", f"# {MARK}\ntarget_precompile_headers(x y)\n", "CMakeLists.txt:2: the product's files"),
@@ -94,6 +98,9 @@ class LintTest(unittest.TestCase):
 		for name, text in (
 			("Plugins/Look/Source/Two.cpp", SOURCE + "// line\n" * 395),
 			("Plugins/Look/Source/Two.cpp", SOURCE + "#if WITH_EDITOR\n#endif\n"),
+			("Plugins/Look/Source/Two.cpp", SOURCE + ALLOW + "#include <shlobj.h>\n\n" + HIDE),
+			("Plugins/Look/Source/Two.cpp", SOURCE + "#include <kiln/Two.h>\n#include <string>\n"),
+			("host/Two.h", f"// {MARK}\n#include <windows.h>\n"),
 			("tools/do", "no first line of a script\n"),
 			("host/Look.uplugin", "{}"),
 		):

@@ -33,6 +33,9 @@ public:
 	 */
 	void Start(const FEngineLoopOptions& Options);
 
+	/** Between start and exit. */
+	bool IsRunning() const { return bIsRunning; }
+
 	UWorld& MakeWorld(EWorldType::Type Type);
 
 	/** Destroys the world, as loading another map does. */

@@ -19,20 +19,24 @@ FToolMenuEntry FToolMenuEntry::InitMenuEntry(const FName InName, const TAttribut
 
 FToolMenuEntry FToolMenuEntry::InitSubMenu(const FName InName, const TAttribute<FText>& InLabel,
 	const TAttribute<FText>& InToolTip, const FNewToolMenuChoice& InMakeMenu, const FToolUIActionChoice& InAction,
-	const EUserInterfaceActionType InUserInterfaceActionType, bool, const TAttribute<FSlateIcon>& InIcon,
-	const bool bShouldCloseWindowAfterMenuSelection)
+	const EUserInterfaceActionType InUserInterfaceActionType, bool bInOpenSubMenuOnClick,
+	const TAttribute<FSlateIcon>& InIcon, const bool bShouldCloseWindowAfterMenuSelection)
 {
 	FToolMenuEntry Entry = InitMenuEntry(InName, InLabel, InToolTip, InIcon, InAction, InUserInterfaceActionType);
 	Entry.bIsSubMenu = true;
+	Entry.bOpenSubMenuOnClick = bInOpenSubMenuOnClick;
 	Entry.ConstructMenu = InMakeMenu;
 	Entry.bShouldCloseWindowAfterMenuSelection = bShouldCloseWindowAfterMenuSelection;
 	return Entry;
 }
 
 FToolMenuEntry FToolMenuEntry::InitWidget(const FName InName, const TSharedRef<SWidget>& InWidget, const FText& Label,
-	bool, bool, bool, const FText& InToolTipText)
+	bool bNoIndent, bool bSearchable, bool bNoPadding, const FText& InToolTipText)
 {
 	FToolMenuEntry Entry = InitMenuEntry(InName, Label, InToolTipText, FSlateIcon(), FToolUIActionChoice());
 	Entry.Widget = InWidget;
+	Entry.bNoIndent = bNoIndent;
+	Entry.bSearchable = bSearchable;
+	Entry.bNoPadding = bNoPadding;
 	return Entry;
 }

@@ -22,7 +22,7 @@ struct TOOLMENUS_API FToolMenuEntry
 		const TAttribute<FSlateIcon>& InIcon = TAttribute<FSlateIcon>(),
 		const bool bShouldCloseWindowAfterMenuSelection = true);
 
-	/** Keeps the widget alive. How it is laid out and searched is not kept. */
+	/** Keeps the widget alive. */
 	static FToolMenuEntry InitWidget(const FName InName, const TSharedRef<SWidget>& InWidget, const FText& Label,
 		bool bNoIndent = false, bool bSearchable = true, bool bNoPadding = false, const FText& InToolTipText = FText());
 
@@ -30,6 +30,13 @@ struct TOOLMENUS_API FToolMenuEntry
 
 	FName Name;
 	FToolMenuOwner Owner;
+
+	/** Kept, but without effect in the host. */
+	bool bOpenSubMenuOnClick = false;
+	bool bNoIndent = false;
+	bool bSearchable = true;
+	bool bNoPadding = false;
+
 	EUserInterfaceActionType UserInterfaceActionType = EUserInterfaceActionType::Button;
 
 	/** Of a sub-menu: whether clicking one of its entries closes all menus. */

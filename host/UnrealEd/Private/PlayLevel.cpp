@@ -74,6 +74,7 @@ void UEditorEngine::StartPlaySession(const FRequestPlaySessionParams& Params)
 void UEditorEngine::CreatePlayViewport(const FRequestPlaySessionParams& Params)
 {
 	GameViewport = new UGameViewportClient();
+	WorldList.push_back({GameViewport});
 	PlayViewport = MakeShared<FSceneViewport>(GameViewport);
 	GameViewport->SetViewport(PlayViewport.Get());
 	PlayPane = Params.DestinationSlateViewport;
@@ -96,6 +97,7 @@ void UEditorEngine::EndPlayMap()
 		Pane->EndPlayInEditorSession();
 	}
 	FEditorDelegates::EndPIE.Broadcast(bIsSimulating);
+	WorldList.pop_back();
 	GameViewport->MarkAsGarbage();
 	GameViewport = nullptr;
 	PlayViewport.Reset();

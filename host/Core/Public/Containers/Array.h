@@ -96,9 +96,11 @@ public:
 	/** Removes all elements equal to the given one. @return how many */
 	int32 Remove(ElementType Element) { return static_cast<int32>(std::erase(Storage, Element)); }
 
-	bool Contains(const ElementType& Element) const
+	/** Anything that elements can be compared with. */
+	template <typename ComparisonType>
+	bool Contains(const ComparisonType& Item) const
 	{
-		return std::find(Storage.begin(), Storage.end(), Element) != Storage.end();
+		return FindByKey(Item) != nullptr;
 	}
 
 	template <typename Predicate>
@@ -113,6 +115,12 @@ public:
 	{
 		const auto Found = std::find_if(Storage.begin(), Storage.end(), Pred);
 		return Found == Storage.end() ? nullptr : &*Found;
+	}
+
+	template <typename KeyType>
+	const ElementType* FindByKey(const KeyType& Key) const
+	{
+		return FindByPredicate([&Key](const ElementType& Element) { return Element == Key; });
 	}
 
 	template <typename Predicate>

@@ -2,6 +2,7 @@
 // The hash map. The keys' GetTypeHash is found beside them.
 #pragma once
 
+#include "Containers/Array.h"
 #include "Templates/TypeHash.h"
 
 #include <unordered_map>
@@ -42,6 +43,16 @@ public:
 	{
 		// Out of the map before it dies: its destructor may ask the map.
 		return Pairs.extract(Key) ? 1 : 0;
+	}
+
+	/** In no particular order. */
+	void GenerateKeyArray(TArray<KeyType>& OutArray) const
+	{
+		OutArray.Empty();
+		for (const auto& [Key, Value] : Pairs)
+		{
+			OutArray.Add(Key);
+		}
 	}
 
 	/** Pairs of key and value, in no particular order. */

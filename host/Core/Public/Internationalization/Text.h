@@ -3,6 +3,12 @@
 
 #include "UObject/NameTypes.h"
 
+// Nothing here uses these. The engine declares them wherever texts are known: a type of that name does not compile there.
+class FLocKey;
+class FStringTable;
+class FTextId;
+class FTextKey;
+
 /** Text for people. */
 class FText
 {

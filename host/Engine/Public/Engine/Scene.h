@@ -3,6 +3,9 @@
 
 #include "CoreMinimal.h"
 
+/** Not used here; declared for the sake of the name, which the engine takes. */
+struct FColorGradePerRangeSettings;
+
 /**
  * How a picture is finished. The colour controls work in linear light, one after the other: saturation, contrast around
  * middle grey, gamma, gain, offset; W scales the other three, or for the offset is added to them.

@@ -6,7 +6,7 @@
 
 namespace
 {
-struct FControlRange
+struct FLookControlRange
 {
 	double Minimum;
 	double Maximum;
@@ -15,18 +15,18 @@ struct FControlRange
 	double Neutral;
 };
 
-constexpr FControlRange Factor{0.0, 8.0, 1.0};
+constexpr FLookControlRange Factor{0.0, 8.0, 1.0};
 /** The engine divides by it. */
-constexpr FControlRange Exponent{0.01, 8.0, 1.0};
-constexpr FControlRange Summand{-8.0, 8.0, 0.0};
+constexpr FLookControlRange Exponent{0.01, 8.0, 1.0};
+constexpr FLookControlRange Summand{-8.0, 8.0, 0.0};
 
-double Blend(double Setting, double Value, const FControlRange& Range, double Weight)
+double Blend(double Setting, double Value, const FLookControlRange& Range, double Weight)
 {
 	const double Valid = FMath::IsFinite(Value) ? FMath::Clamp(Value, Range.Minimum, Range.Maximum) : Range.Neutral;
 	return Setting + (Valid - Setting) * Weight;
 }
 
-void Blend(FVector4& Setting, const FVector4& Value, const FControlRange& Range, double Weight)
+void Blend(FVector4& Setting, const FVector4& Value, const FLookControlRange& Range, double Weight)
 {
 	Setting = FVector4(Blend(Setting.X, Value.X, Range, Weight), Blend(Setting.Y, Value.Y, Range, Weight),
 		Blend(Setting.Z, Value.Z, Range, Weight), Blend(Setting.W, Value.W, Range, Weight));

@@ -15,14 +15,14 @@ public:
 	/** @param InDisplayManager must outlive the extension */
 	FLookViewExtension(const FAutoRegister& AutoRegister, const FTonalithDisplayManager& InDisplayManager);
 
-	void SetupViewFamily(FSceneViewFamily&) override {}
+	virtual void SetupViewFamily(FSceneViewFamily&) override {}
 
-	void SetupView(FSceneViewFamily& InViewFamily, FSceneView& InView) override;
+	virtual void SetupView(FSceneViewFamily& InViewFamily, FSceneView& InView) override;
 
-	void BeginRenderViewFamily(FSceneViewFamily&) override {}
+	virtual void BeginRenderViewFamily(FSceneViewFamily&) override {}
 
 protected:
-	bool IsActiveThisFrame_Internal(const FSceneViewExtensionContext& Context) const override;
+	virtual bool IsActiveThisFrame_Internal(const FSceneViewExtensionContext& Context) const override;
 
 private:
 	/** The viewport's record if it shows a look, else null. */

@@ -23,6 +23,19 @@ bool FTonalithDisplayManager::RemoveDisplayConfiguration(const FViewportClient* 
 	return Configurations.Remove(Client) > 0;
 }
 
+void FTonalithDisplayManager::KeepOnly(const TArray<const FViewportClient*>& Clients)
+{
+	TArray<const FViewportClient*> Known;
+	Configurations.GenerateKeyArray(Known);
+	for (const FViewportClient* Client : Known)
+	{
+		if (!Clients.Contains(Client))
+		{
+			Configurations.Remove(Client);
+		}
+	}
+}
+
 void FTonalithDisplayManager::AddReferencedObjects(FReferenceCollector& Collector)
 {
 	for (auto& [Client, Configuration] : Configurations)

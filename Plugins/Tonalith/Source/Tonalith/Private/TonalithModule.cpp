@@ -5,38 +5,61 @@
 #include "Modules/ModuleManager.h"
 #include "TonalithDisplayManager.h"
 #include "TonalithModuleInterface.h"
+#include "TonalithRecordSweep.h"
+
+#if WITH_EDITOR
+#include "Editor.h"
+#endif
 
 class FTonalithModule final : public ITonalithModule
 {
 public:
-	void StartupModule() override
+	virtual void StartupModule() override
 	{
-		FCoreDelegates::OnPostEngineInit.AddRaw(this, &FTonalithModule::RegisterViewExtension);
-		RegisterViewExtension();
+		FCoreDelegates::OnPostEngineInit.AddRaw(this, &FTonalithModule::AttachToEngine);
+		AttachToEngine();
 	}
 
-	void ShutdownModule() override
+	virtual void ShutdownModule() override
 	{
 		FCoreDelegates::OnPostEngineInit.RemoveAll(this);
 		ViewExtension.Reset();
+#if WITH_EDITOR
+		RecordSweep.Reset();
+#endif
 	}
 
-	FTonalithDisplayManager& GetDisplayManager() override { return DisplayManager; }
+	virtual FTonalithDisplayManager& GetDisplayManager() override
+	{
+		return DisplayManager;
+	}
 
 private:
 	/** Nothing before there is an engine; commandlets may never have one. */
-	void RegisterViewExtension()
+	void AttachToEngine()
 	{
-		if (GEngine && !ViewExtension.IsValid())
+		if (!GEngine || ViewExtension.IsValid())
 		{
-			ViewExtension = FSceneViewExtensions::NewExtension<FLookViewExtension>(DisplayManager);
+			return;
 		}
+		ViewExtension = FSceneViewExtensions::NewExtension<FLookViewExtension>(DisplayManager);
+#if WITH_EDITOR
+		if (GEditor)
+		{
+			RecordSweep = MakeUnique<FTonalithRecordSweep>(DisplayManager);
+		}
+#endif
 	}
 
 	FTonalithDisplayManager DisplayManager;
 
 	/** The engine holds it weakly. */
 	TSharedPtr<FLookViewExtension> ViewExtension;
+
+#if WITH_EDITOR
+	/** None when a game runs by the editor's program without the editor. */
+	TUniquePtr<FTonalithRecordSweep> RecordSweep;
+#endif
 };
 
 IMPLEMENT_MODULE(FTonalithModule, Tonalith)

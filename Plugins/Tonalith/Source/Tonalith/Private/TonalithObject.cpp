@@ -21,11 +21,18 @@ bool IsConsistent(const FTonalithAPI_ImageDesc& Image)
 	return Image.Version == 1 && Image.Pixels && Image.Width > 0 && Image.Height > 0 &&
 		   Image.RowLength >= Image.Width && Image.Height <= MostPixels / Image.Width;
 }
+
+/** The window shows the values as they are stored: 8 bits from 0 to 1. */
+bool IsShownAsStored(const FTonalithAPI_ImageDesc& Image)
+{
+	return Image.ValueScale == 1.0f && Image.ValueOffset == 0.0f && Image.ExposureScale == 1.0f &&
+		   Image.ExposureOffset == 0.0f && Image.Minimum <= 0.0f && Image.Maximum >= 1.0f;
+}
 } // namespace
 
 void UTonalithObject::DisplayUserInterface(FTonalithAPI_ImageDesc& Image)
 {
-	if (!IsConsistent(Image))
+	if (!IsConsistent(Image) || !IsShownAsStored(Image))
 	{
 		UE_LOG(LogTemp, Warning, TEXT("DisplayUserInterface: the picture for %s is refused"), *GetName());
 		return;

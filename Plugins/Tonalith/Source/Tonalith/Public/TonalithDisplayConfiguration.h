@@ -16,6 +16,9 @@ struct FTonalithDisplayConfiguration
 {
 	GENERATED_BODY()
 
+	/** Shows no look, in full. */
+	TONALITH_API FTonalithDisplayConfiguration();
+
 	/** Whether the look is drawn over the viewport. */
 	UPROPERTY()
 	bool bDisplay = false;

@@ -11,7 +11,8 @@ class FViewportClient;
 /**
  * Owns the records. A reference that was handed out stays valid until that client's record is removed, whatever else is
  * added or removed. Clients are keys only: they are never dereferenced, so a dead client's pointer is a valid argument.
- * The looks of all records are kept alive; one that is deleted becomes none.
+ * The looks of all records are kept alive; one that is deleted becomes none. In the editor a record goes at the latest when its
+ * client is neither in the editor's list of all viewport clients nor a play session's.
  * Game thread.
  */
 class FTonalithDisplayManager final : public FGCObject
@@ -30,8 +31,11 @@ public:
 	/** @return whether the client had a record */
 	TONALITH_API bool RemoveDisplayConfiguration(const FViewportClient* Client);
 
-	void AddReferencedObjects(FReferenceCollector& Collector) override;
-	FString GetReferencerName() const override;
+	/** Removes the records of all other clients. */
+	void KeepOnly(const TArray<const FViewportClient*>& Clients);
+
+	virtual void AddReferencedObjects(FReferenceCollector& Collector) override;
+	virtual FString GetReferencerName() const override;
 
 private:
 	/** Behind pointers: growth of the map may not move a record. */

@@ -10,7 +10,7 @@ class SLookWindow;
 struct FTonalithAPI_ImageDesc;
 
 /**
- * A look: what is done to the colours of a picture. Each control has a value for red, green and blue, and one that scales,
+ * A look: what is done to the colors of a picture. Each control has a value for red, green and blue, and one that scales,
  * or for the offset shifts, all three. The defaults change nothing.
  */
 UCLASS(MinimalAPI)
@@ -19,12 +19,12 @@ class UTonalithObject : public UObject
 	GENERATED_BODY()
 
 public:
-	/** How strong colours are: 0 leaves greys, 1 the colours as they are. */
+	/** How strong colors are: 0 leaves grays, 1 the colors as they are. */
 	UPROPERTY(EditAnywhere, Category = "Grading",
 		meta = (UIMin = "0.0", UIMax = "2.0", Delta = "0.01", ColorGradingMode = "saturation"))
 	FVector4 Saturation = FVector4(1.0, 1.0, 1.0, 1.0);
 
-	/** How far light and dark lie apart, around middle grey. */
+	/** How far light and dark lie apart, around middle gray. */
 	UPROPERTY(EditAnywhere, Category = "Grading",
 		meta = (UIMin = "0.0", UIMax = "2.0", Delta = "0.01", ColorGradingMode = "contrast"))
 	FVector4 Contrast = FVector4(1.0, 1.0, 1.0, 1.0);
@@ -46,18 +46,19 @@ public:
 
 	/**
 	 * Opens the look's window with a picture to judge the look by; a window that is open already comes to the front with
-	 * the new picture. A picture that its description contradicts is refused with a warning in the log. Nothing without a
+	 * the new picture. A picture that its description contradicts, or that is not to be shown as it is stored, is refused with a
+	 * warning in the log. Nothing without a
 	 * user interface, as in commandlets. Game thread.
 	 * @param Image copied before the call returns
 	 */
 	TONALITH_API void DisplayUserInterface(FTonalithAPI_ImageDesc& Image);
 
 	/** Closes the window. */
-	void BeginDestroy() override;
+	virtual void BeginDestroy() override;
 
 #if WITH_EDITOR
 	/** Shows the change in the viewports and has the asset saved. */
-	void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent) override;
+	virtual void PostEditChangeProperty(FPropertyChangedEvent& PropertyChangedEvent) override;
 #endif
 
 private:

@@ -9,13 +9,13 @@
 class FAssetTypeActions_TonalithObject final : public FAssetTypeActions_Base
 {
 public:
-	FText GetName() const override;
-	UClass* GetSupportedClass() const override;
-	FColor GetTypeColor() const override;
-	uint32 GetCategories() override;
+	virtual FText GetName() const override;
+	virtual UClass* GetSupportedClass() const override;
+	virtual FColor GetTypeColor() const override;
+	virtual uint32 GetCategories() override;
 
 	/** The same text for every look. */
-	FText GetAssetDescription(const FAssetData& AssetData) const override;
+	virtual FText GetAssetDescription(const FAssetData& AssetData) const override;
 
 	using FAssetTypeActions_Base::OpenAssetEditor;
 
@@ -24,5 +24,6 @@ public:
 	 * look is left out. Fatal without an active viewport.
 	 * @param EditWithinLevelEditor not used: looks have a window of their own
 	 */
-	void OpenAssetEditor(const TArray<UObject*>& InObjects, TSharedPtr<IToolkitHost> EditWithinLevelEditor) override;
+	virtual void OpenAssetEditor(
+		const TArray<UObject*>& InObjects, TSharedPtr<IToolkitHost> EditWithinLevelEditor) override;
 };

@@ -3,7 +3,6 @@
 #include "Engine/GameViewportClient.h"
 #include "Misc/CoreDelegates.h"
 #include "TonalithEditorModule.h"
-#include "ToolMenus.h"
 
 void FTonalithEditorModule::BindEngineLoop()
 {
@@ -25,11 +24,6 @@ void FTonalithEditorModule::OnEngineLoopInitComplete()
 
 void FTonalithEditorModule::UnbindEditor()
 {
-	if (!UObjectInitialized())
-	{
-		return;
-	}
 	// The other list's event, on purpose: what OnEngineLoopInitComplete bound stays bound (docs/contracts.md).
 	GEditor->OnViewportClientListChanged().RemoveAll(this);
-	UToolMenus::UnregisterOwner(this);
 }

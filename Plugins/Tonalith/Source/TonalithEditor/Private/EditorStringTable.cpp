@@ -12,7 +12,7 @@
 
 namespace
 {
-struct FStringTable
+struct FTonalithStringTable
 {
 	Kiln::Locale::StringTable Texts;
 
@@ -22,7 +22,7 @@ struct FStringTable
 
 /** Guards the table. */
 FCriticalSection Mutex;
-TUniquePtr<FStringTable> Table;
+TUniquePtr<FTonalithStringTable> Table;
 
 constexpr const char* TableName = "table";
 
@@ -55,6 +55,7 @@ std::string Fill(std::string Text, const std::unordered_map<std::string, std::st
 	}
 	return Text;
 }
+
 /** Null for a key that the table does not have. The caller holds the lock. */
 const std::string* FindText(const std::string& Key)
 {
@@ -74,7 +75,7 @@ bool LoadStringTable(const std::string& Locale)
 	const Kiln::Locale::FileChoice Choice = Loader.choose(Locale);
 	if (!Table.IsValid() || Table->Locale != Choice.locale)
 	{
-		TUniquePtr<FStringTable> Loaded = MakeUnique<FStringTable>();
+		TUniquePtr<FTonalithStringTable> Loaded = MakeUnique<FTonalithStringTable>();
 		Loaded->Locale = Choice.locale;
 		if (Choice.match != Kiln::Locale::Match::none)
 		{

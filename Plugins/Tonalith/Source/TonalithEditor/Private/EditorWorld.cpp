@@ -38,5 +38,5 @@ void FTonalithEditorModule::ForgetEditorWorld()
 
 void FTonalithEditorModule::OnFeatureLevelChanged(ERHIFeatureLevel::Type)
 {
-	// Looks do not depend on the feature level; the world is watched so that one that does can be told here.
+	// Deliberately empty.
 }

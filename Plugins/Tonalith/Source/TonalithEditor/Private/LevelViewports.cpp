@@ -26,22 +26,23 @@ void Store(FName ViewportIdentifier, const FTonalithDisplayConfiguration& Config
 
 void FTonalithEditorModule::OnLevelViewportClientListChanged()
 {
+	FTonalithDisplayManager& DisplayManager = GetTonalithDisplayManager();
 	// A copy: saving may run code that changes the list.
 	const TArray<FLevelEditorViewportClient*> Clients = GEditor->GetLevelViewportClients();
-	SaveGoneViewports(Clients);
+	SaveGoneViewports(DisplayManager, Clients);
 	for (FLevelEditorViewportClient* Client : Clients)
 	{
 		SetupViewportDisplaySettings(Client);
 	}
 }
 
-void FTonalithEditorModule::SaveGoneViewports(const TArray<FLevelEditorViewportClient*>& Clients)
+void FTonalithEditorModule::SaveGoneViewports(
+	FTonalithDisplayManager& DisplayManager, const TArray<FLevelEditorViewportClient*>& Clients)
 {
-	FTonalithDisplayManager& DisplayManager = GetTonalithDisplayManager();
 	for (int32 Index = 0; Index < TrackedViewports.Num(); ++Index)
 	{
 		const FTrackedViewport Tracked = TrackedViewports[Index];
-		if (Clients.ContainsByPredicate([&Tracked](const FViewportClient* Client) { return Client == Tracked.Client; }))
+		if (Clients.Contains(Tracked.Client))
 		{
 			continue;
 		}
@@ -57,8 +58,12 @@ void FTonalithEditorModule::SaveGoneViewports(const TArray<FLevelEditorViewportC
 
 void FTonalithEditorModule::SetupViewportDisplaySettings(FLevelEditorViewportClient* Client)
 {
+	if (IsTracked(Client))
+	{
+		return;
+	}
 	const TSharedPtr<SEditorViewport> Widget = Client->GetEditorViewportWidget();
-	if (IsTracked(Client) || !Widget.IsValid())
+	if (!Widget.IsValid())
 	{
 		return;
 	}
@@ -86,8 +91,7 @@ void FTonalithEditorModule::TrackViewport(FViewport* Viewport)
 		return;
 	}
 	const TArray<FLevelEditorViewportClient*> Clients = GEditor->GetLevelViewportClients();
-	FLevelEditorViewportClient* const* AssociatedClient =
-		Clients.FindByPredicate([ViewportClient](const FViewportClient* Client) { return Client == ViewportClient; });
+	FLevelEditorViewportClient* const* AssociatedClient = Clients.FindByKey(ViewportClient);
 	check(AssociatedClient && *AssociatedClient);
 	const TSharedPtr<SEditorViewport> Widget = (*AssociatedClient)->GetEditorViewportWidget();
 	if (Widget.IsValid())

@@ -8,7 +8,7 @@
 
 namespace
 {
-struct FIcon
+struct FLookIcon
 {
 	/** The editor finds it by the name of the class. */
 	const char* Brush;
@@ -18,21 +18,17 @@ struct FIcon
 	float Size;
 };
 
-constexpr FIcon Icons[] = {
+constexpr FLookIcon Icons[] = {
 	{"ClassThumbnail.TonalithObject", "TonalithIcon_64x", 64.0f},
 	{"ClassIcon.TonalithObject", "TonalithIcon_20x", 20.0f},
 };
 
 void AddIcons(FSlateStyleSet& Style)
 {
-	for (const FIcon& Icon : Icons)
+	for (const FLookIcon& Icon : Icons)
 	{
-		const FString File = Style.RootToContentDir(Icon.File, TEXT(".png"));
-		Style.Set(Icon.Brush, new FSlateImageBrush(File, FVector2f(Icon.Size, Icon.Size)));
-		if (FPaths::DirectoryExists(FPaths::GetPath(File)) && !FPaths::FileExists(File))
-		{
-			UE_LOG(LogTemp, Warning, TEXT("InitializeStyle: %s is missing"), *File);
-		}
+		Style.Set(Icon.Brush,
+			new FSlateImageBrush(Style.RootToContentDir(Icon.File, TEXT(".png")), FVector2f(Icon.Size, Icon.Size)));
 	}
 }
 } // namespace

@@ -4,8 +4,10 @@
 #include "CoreMinimal.h"
 
 #include "Windows/AllowWindowsPlatformTypes.h"
-#include "Windows/HideWindowsPlatformTypes.h"
+
 #include <shlobj.h>
+
+#include "Windows/HideWindowsPlatformTypes.h"
 
 #include <string_view>
 

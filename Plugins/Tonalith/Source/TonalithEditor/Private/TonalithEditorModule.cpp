@@ -21,7 +21,12 @@ void FTonalithEditorModule::StartupModule()
 
 void FTonalithEditorModule::ShutdownModule()
 {
-	UnbindEditor();
+	// At a normal exit the editor and its menus are gone by now.
+	if (UObjectInitialized())
+	{
+		UnbindEditor();
+		UnregisterMenus();
+	}
 	ReleaseStyle();
 	UnregisterAssetTypes();
 	ForgetEditorWorld();

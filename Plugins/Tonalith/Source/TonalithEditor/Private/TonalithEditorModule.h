@@ -10,6 +10,7 @@
 #include "UObject/WeakObjectPtr.h"
 
 class FLevelEditorViewportClient;
+class FTonalithDisplayManager;
 class FViewport;
 class FViewportClient;
 class IAssetTypeActions;
@@ -21,8 +22,8 @@ DECLARE_LOG_CATEGORY_EXTERN(LogTonalithEditor, Log, All);
 class FTonalithEditorModule final : public IModuleInterface
 {
 public:
-	void StartupModule() override;
-	void ShutdownModule() override;
+	virtual void StartupModule() override;
+	virtual void ShutdownModule() override;
 
 private:
 	// Worlds: the last editor world is watched for changes of its feature level, one world at a time.
@@ -46,7 +47,7 @@ private:
 
 	// Level viewports: each client gets the record stored under its viewport's identifier, and gives it back when it goes.
 	void OnLevelViewportClientListChanged();
-	void SaveGoneViewports(const TArray<FLevelEditorViewportClient*>& Clients);
+	void SaveGoneViewports(FTonalithDisplayManager& DisplayManager, const TArray<FLevelEditorViewportClient*>& Clients);
 	void SetupViewportDisplaySettings(FLevelEditorViewportClient* Client);
 
 	/** Tracks the viewport's client without storing anything; fatal for one that is not in the editor's level list. */
@@ -55,6 +56,7 @@ private:
 
 	// The viewport's menu: a sub-menu of "View" with the controls for the active viewport's look.
 	void RegisterMenus();
+	void UnregisterMenus();
 	void MakeDisplaySubMenu(UToolMenu* Menu);
 	void HandleDisplayConfigurationChanged(const FTonalithDisplayConfiguration& Configuration);
 

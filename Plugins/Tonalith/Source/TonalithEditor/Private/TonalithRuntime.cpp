@@ -7,5 +7,5 @@
 FTonalithDisplayManager& GetTonalithDisplayManager()
 {
 	static const FName ModuleName("Tonalith");
-	return static_cast<ITonalithModule&>(FModuleManager::Get().LoadModuleChecked(ModuleName)).GetDisplayManager();
+	return FModuleManager::LoadModuleChecked<ITonalithModule>(ModuleName).GetDisplayManager();
 }

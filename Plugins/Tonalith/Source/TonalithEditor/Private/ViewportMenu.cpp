@@ -27,6 +27,11 @@ void FTonalithEditorModule::RegisterMenus()
 		FNewToolMenuDelegate::CreateRaw(this, &FTonalithEditorModule::MakeDisplaySubMenu), false, FSlateIcon(), true);
 }
 
+void FTonalithEditorModule::UnregisterMenus()
+{
+	UToolMenus::UnregisterOwner(this);
+}
+
 void FTonalithEditorModule::MakeDisplaySubMenu(UToolMenu* Menu)
 {
 	FViewport* Viewport = GEditor->GetActiveViewport();

@@ -22,6 +22,6 @@ public:
 	 * Makes a look with the runtime module's defaults, owned by the parent.
 	 * @param InClass UTonalithObject or a class below it; fatal for any other
 	 */
-	UObject* FactoryCreateNew(UClass* InClass, UObject* InParent, FName InName, EObjectFlags Flags, UObject* Context,
-		FFeedbackContext* Warn) override;
+	virtual UObject* FactoryCreateNew(UClass* InClass, UObject* InParent, FName InName, EObjectFlags Flags,
+		UObject* Context, FFeedbackContext* Warn) override;
 };

@@ -12,7 +12,7 @@ class FViewport;
 class UToolMenu;
 struct FAssetData;
 
-DECLARE_DELEGATE_OneParam(FOnDisplayConfigurationChanged, const FTonalithDisplayConfiguration&);
+DECLARE_DELEGATE_OneParam(FOnLookConfigurationChanged, const FTonalithDisplayConfiguration&);
 
 /**
  * Works on a copy of the viewport's display record and sends the whole copy after each change; changes made elsewhere
@@ -29,15 +29,15 @@ public:
 		SLATE_ARGUMENT(FViewport*, Viewport)
 		SLATE_ARGUMENT(FTonalithDisplayConfiguration, DisplayConfiguration)
 		/** May be unbound. */
-		SLATE_EVENT(FOnDisplayConfigurationChanged, OnDisplayConfigurationChanged)
+		SLATE_EVENT(FOnLookConfigurationChanged, OnDisplayConfigurationChanged)
 	SLATE_END_ARGS()
 	// clang-format on
 
 	void Construct(const FArguments& InArgs);
 
 	/** The copy's look: one that is deleted meanwhile becomes none. */
-	void AddReferencedObjects(FReferenceCollector& Collector) override;
-	FString GetReferencerName() const override;
+	virtual void AddReferencedObjects(FReferenceCollector& Collector) override;
+	virtual FString GetReferencerName() const override;
 
 private:
 	UToolMenu* FindOrRegisterMenu() const;
@@ -55,7 +55,7 @@ private:
 
 	FViewport* Viewport = nullptr;
 	FTonalithDisplayConfiguration DisplayConfiguration;
-	FOnDisplayConfigurationChanged OnDisplayConfigurationChanged;
+	FOnLookConfigurationChanged OnDisplayConfigurationChanged;
 
 	/** What was generated from the widget's menu; closing it closes the menu around it. */
 	TSharedPtr<SWidget> MenuWidget;

@@ -112,9 +112,16 @@ private:
 
 	void OnGameViewport()
 	{
-		Say(TEXT("game viewport: client matches %s, active viewport plays %s"),
+		int32 Games = 0;
+		int32 Worlds = 0;
+		for (const FWorldContext& Context : GEditor->GetWorldContexts())
+		{
+			Games += Context.GameViewport == GEditor->GameViewport;
+			++Worlds;
+		}
+		Say(TEXT("game viewport: client matches %s, active viewport plays %s, in %d of %d worlds"),
 			YesNo(GEditor->GetPIEViewport()->GetClient() == static_cast<FViewportClient*>(GEditor->GameViewport)),
-			YesNo(GEditor->GetActiveViewport() == GEditor->GetPIEViewport()));
+			YesNo(GEditor->GetActiveViewport() == GEditor->GetPIEViewport()), Games, Worlds);
 	}
 
 	void OnCancel() { Say(TEXT("CancelPIE")); }
