@@ -1,5 +1,5 @@
 # Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-"""Reads a reflected header: its types, their properties, and the comments above them."""
+"""Reads a reflected header: its types and their properties."""
 import re
 from dataclasses import dataclass, field
 from pathlib import Path
@@ -35,8 +35,6 @@ class Property:
     name: str
     type: str
     specifiers: dict
-    access: str
-    comment: str
     line: int
 
 
@@ -46,7 +44,6 @@ class Type:
     name: str
     base: str
     specifiers: dict
-    comment: str
     macro_line: int
     body_line: int = 0
     body_access: str = "private"
@@ -60,14 +57,15 @@ class Reader:
     def __init__(self, path, text):
         self.path = path
         self.at = 0
-        self.tokens = [Token(m.lastgroup, m.group(), text.count("\n", 0, m.start()) + 1) for m in TOKEN.finditer(text)]
+        self.tokens = [Token(m.lastgroup, m.group(), text.count("\n", 0, m.start()) + 1)
+                       for m in TOKEN.finditer(text) if m.lastgroup != "comment"]
         self.tokens.append(Token("end", "", text.count("\n") + 1))
 
     def error(self, line, reason):
         return HeaderError(f"{self.path}:{line}: {reason}")
 
     def peek(self):
-        while self.tokens[self.at].kind in ("comment", "directive"):
+        while self.tokens[self.at].kind == "directive":
             self.at += 1
         return self.tokens[self.at]
 
@@ -83,20 +81,6 @@ class Reader:
         if token.text != text:
             raise self.error(token.line, f'"{text}" expected, "{token.text}" found')
         return token
-
-    def comment_before(self):
-        """The comment lines that stand directly above the next token."""
-        line, lines = self.peek().line, []
-        index = self.at - 1
-        while index >= 0 and self.tokens[index].kind == "comment":
-            comment = self.tokens[index]
-            last = comment.line + comment.text.count("\n")
-            if last != line - 1 or (index and self.tokens[index - 1].line == comment.line):
-                break
-            lines.insert(0, comment.text)
-            line = comment.line
-            index -= 1
-        return "\n".join(lines)
 
     def specifiers(self, known):
         """Reads "(Name, Name=Value, meta=(Name=Value))" into a dictionary with lower-case names."""
@@ -138,16 +122,16 @@ class Reader:
         if not includes or generated not in includes[-1].text:
             raise self.error(includes[-1].line if includes else 1, f"the last include must be {generated}")
         while self.peek().kind != "end":
-            comment, token = self.comment_before(), self.next()
+            token = self.next()
             if token.text in UNSUPPORTED:
                 raise self.error(token.line, f"{token.text} is not supported")
             if token.text in ("UPROPERTY", "GENERATED_BODY"):
                 raise self.error(token.line, f"{token.text} outside of a reflected type")
             if token.text in ("UCLASS", "USTRUCT"):
-                types.append(self.type(token, comment))
+                types.append(self.type(token))
         return types
 
-    def type(self, macro, comment):
+    def type(self, macro):
         is_class = macro.text == "UCLASS"
         specifiers = self.specifiers(CLASS_SPECIFIERS if is_class else set())
         self.expect("class" if is_class else "struct")
@@ -159,7 +143,7 @@ class Reader:
         prefix = "U" if is_class else "F"
         if not re.match(prefix + "[A-Z]", name.text):
             raise self.error(name.line, f'the name does not begin with "{prefix}": "{name.text}"')
-        result = Type("class" if is_class else "struct", name.text, "", specifiers, comment, macro.line)
+        result = Type("class" if is_class else "struct", name.text, "", specifiers, macro.line)
         if self.peek().text == ":":
             self.next()
             self.expect("public")
@@ -179,7 +163,7 @@ class Reader:
     def body(self, owner):
         access = "private" if owner.kind == "class" else "public"
         while self.peek().text != "}":
-            comment, token = self.comment_before(), self.next()
+            token = self.next()
             if token.text in ("public", "protected", "private") and self.peek().text == ":":
                 self.next()
                 access = token.text
@@ -188,7 +172,7 @@ class Reader:
                 self.expect("(")
                 self.expect(")")
             elif token.text == "UPROPERTY":
-                owner.properties.append(self.property(access, comment))
+                owner.properties.append(self.property())
             elif token.text in UNSUPPORTED:
                 raise self.error(token.line, f"{token.text} is not supported")
             elif token.text == "{":
@@ -199,7 +183,7 @@ class Reader:
                 owner.has_constructor = True
         self.expect("}")
 
-    def property(self, access, comment):
+    def property(self):
         specifiers = self.specifiers(PROPERTY_SPECIFIERS)
         words = []
         while self.peek().text not in (";", "=", "{"):
@@ -210,7 +194,7 @@ class Reader:
         while self.next().text != ";":
             pass
         spelled = "".join(w.text for w in words if w.text not in ("class", "struct"))
-        return Property(name.text, spelled, specifiers, access, comment, name.line)
+        return Property(name.text, spelled, specifiers, name.line)
 
     def referred(self, item):
         """The kind and the name of the reflected type that a property's type refers to; neither for a plain type."""

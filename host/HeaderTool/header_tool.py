@@ -11,7 +11,6 @@ import argparse
 import json
 import re
 import sys
-import textwrap
 from pathlib import Path
 
 from header_reader import HeaderError, Reader
@@ -19,32 +18,9 @@ from header_reader import HeaderError, Reader
 PROPERTY_FLAGS = {"config": "CPF_Config", "editanywhere": "CPF_Edit"}
 
 
-def tool_tip(comment):
-    """The comment as a user reads it: without markers and common indentation; line breaks stay."""
-    is_starred = comment.lstrip().startswith("/**")
-    lines = []
-    for line in comment.replace("\r", "").split("\n"):
-        text = line.strip() if re.match(r"\s*(//|/\*)", line) else line
-        if text.startswith("//~"):
-            continue
-        text = re.sub(r"^///?|^/\*+|\*+/\s*$", "", text)
-        if is_starred:
-            text = re.sub(r"^\s*\*", "", text)
-        lines.append(text.replace("\t", "    ").rstrip())
-    return textwrap.dedent("\n".join(lines)).strip("\n")
-
-
 def literal(text):
     """C++ source of a wide string."""
     return f"TEXT({json.dumps(text, ensure_ascii=False)})"
-
-
-def metadata(comment, specifiers):
-    pairs = {"ToolTip": tool_tip(comment)} if comment else {}
-    if "category" in specifiers:
-        pairs["Category"] = specifiers["category"]
-    pairs.update(specifiers.get("meta") or {})
-    return "{" + ", ".join(f"{{{literal(k)}, {literal(v)}}}" for k, v in sorted(pairs.items())) + "}"
 
 
 class Module:
@@ -94,12 +70,9 @@ class Module:
 
     @staticmethod
     def property_source(item, owner_name):
-        flags = ["CPF_NativeAccessSpecifier" + item.access.capitalize()]
-        flags += [flag for name, flag in PROPERTY_FLAGS.items() if name in item.specifiers]
-        declaration = (f"{{{literal(item.name)}, {literal(item.type)}, offsetof({owner_name}, {item.name}), "
-                       f"{' | '.join(flags)}}}")
-        return (f"\t\tHostReflection::AddProperty<decltype({owner_name}::{item.name})>(Type, {declaration}, "
-                f"{metadata(item.comment, item.specifiers)});")
+        flags = [flag for name, flag in PROPERTY_FLAGS.items() if name in item.specifiers] or ["CPF_None"]
+        declaration = f"{{{literal(item.name)}, offsetof({owner_name}, {item.name}), {' | '.join(flags)}}}"
+        return f"\t\tHostReflection::AddProperty<decltype({owner_name}::{item.name})>(Type, {declaration});"
 
     def type_source(self, owner):
         name, is_class = owner.name, owner.kind == "class"
@@ -111,8 +84,7 @@ class Module:
         else:
             make = f"NewStruct({identity}, sizeof({name}), {owner.base + '::StaticStruct()' if owner.base else 'nullptr'})"
         lines = [f"struct Z_Construct_{kind}_{name}_Statics", "{", f"\tstatic {kind}* Make()", "\t{",
-                 f"\t\t{kind}* Type = HostReflection::{make};",
-                 f"\t\tHostReflection::AddMetaData(Type, {metadata(owner.comment, owner.specifiers)});"]
+                 f"\t\t{kind}* Type = HostReflection::{make};"]
         lines += [self.property_source(item, name) for item in owner.properties]
         return lines + ["\t\treturn Type;", "\t}", "};", f"HOST_DEFINE_{'CLASS' if is_class else 'STRUCT'}({name})"]
 

@@ -12,9 +12,6 @@ ROOT = Path(__file__).resolve().parents[2]
 TOOL = ROOT / "host/HeaderTool/header_tool.py"
 SOURCES = ROOT / "Plugins/Tonalith/Source"
 
-sys.path.insert(0, str(TOOL.parent))
-from header_tool import tool_tip  # noqa: E402
-
 RENAMED = {"Tonalith": "Zephyr", "TONALITH": "ZEPHYR", "TNL": "QRX", "ViewportsSettings": "PaneList",
            "ViewportIdentifier": "PaneName", "DisplayConfiguration": "ShownThing", "bDisplay": "bIsLit",
            "Weight": "Share", "Look": "Picture", "ViewportSettings": "PaneStore"}
@@ -88,15 +85,6 @@ class Refusals(unittest.TestCase):
                 self.assertEqual(result.returncode, 1)
                 self.assertIn(f"{header}:{line}: {reason}", result.stderr)
                 self.assertEqual(result.stderr.count("\n"), 1)
-
-
-class ToolTips(unittest.TestCase):
-    def test_markers_go_and_line_breaks_stay(self):
-        rows = [("/** One. */", "One."), ("// One.\n// Two.", "One.\nTwo."), ("/// One.", "One."),
-                ("/**\n\t * One,\n\t *   two.\n\t */", "One,\n  two."), ("//~ Hidden\n// Shown", "Shown"),
-                ("/*\n  * One\n*/", "* One"), ("", "")]
-        for comment, expected in rows:
-            self.assertEqual(tool_tip(comment), expected, comment)
 
 
 if __name__ == "__main__":

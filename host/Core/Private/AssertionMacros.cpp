@@ -8,10 +8,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <set>
-#include <sstream>
 #include <windows.h>
 
-DEFINE_LOG_CATEGORY_STATIC(LogWindows, Log, All);
 DEFINE_LOG_CATEGORY_STATIC(LogOutputDevice, Log, All);
 
 namespace
@@ -21,20 +19,12 @@ FString Place(const ANSICHAR* File, int32 Line)
 {
 	return FString::Printf(TEXT("[File:%s] [Line: %d] "), UTF8_TO_TCHAR(File), Line);
 }
-
 } // namespace
 
 void FDebug::CheckFailed(const ANSICHAR* Expression, const ANSICHAR* File, int32 Line, const FString& Message)
 {
 	const FString Text =
 		FString::Printf(TEXT("Assertion failed: %s %s\n%s"), UTF8_TO_TCHAR(Expression), *Place(File, Line), *Message);
-	UE_LOG(LogWindows, Error, TEXT("appError called: %s"), *Text);
-	UE_LOG(LogWindows, Error, TEXT("=== Critical error: ==="));
-	std::wistringstream Lines(TEXT("\n") + std::wstring(*Text));
-	for (std::wstring Each; std::getline(Lines, Each);)
-	{
-		UE_LOG(LogWindows, Error, TEXT("%s"), Each.c_str());
-	}
 	std::fflush(stdout);
 	std::fprintf(stderr, "%s\n", TCHAR_TO_UTF8(*Text));
 	std::fflush(stderr);

@@ -5,8 +5,6 @@
 
 DEFINE_LOG_CATEGORY(LogTemp);
 
-uint64 GFrameCounter = 0;
-
 namespace
 {
 const std::thread::id GameThread = std::this_thread::get_id();

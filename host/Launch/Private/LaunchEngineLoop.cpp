@@ -5,7 +5,6 @@
 #include "Framework/Application/SlateApplication.h"
 #include "Host/Assets.h"
 #include "Host/Culture.h"
-#include "Host/Log.h"
 #include "Host/Plugins.h"
 #include "Host/Project.h"
 #include "Host/Trace.h"
@@ -46,7 +45,6 @@ bool FEngineLoop::Init(const FEngineLoopOptions& Options, FString& OutError) noe
 	std::set_terminate(&OnUncaughtException);
 	bIsCommandlet = Options.bIsCommandlet;
 	HostProject::SetFolder(Options.ProjectFolder);
-	HostLog::OpenFile(FPaths::Combine(FPaths::ProjectSavedDir(), TEXT("Logs/HeadlessEditor.log")));
 	HostCulture::Set(Options.Culture);
 	HostAssets::Scan();
 	try
@@ -109,7 +107,6 @@ void FEngineLoop::MakeEditor() noexcept
 
 void FEngineLoop::Tick() noexcept
 {
-	++GFrameCounter;
 	if (GEditor)
 	{
 		GEditor->Tick();
@@ -134,5 +131,4 @@ void FEngineLoop::Exit() noexcept
 	GEditor = nullptr;
 	GEngine = nullptr;
 	FModuleManager::Get().UnloadModulesAtShutdown();
-	HostLog::CloseFile();
 }

@@ -6,7 +6,7 @@
 
 struct FEngineLoopOptions
 {
-	/** Where logs and settings are kept; made when missing. */
+	/** Where assets and settings are kept; made when missing. */
 	FString ProjectFolder;
 
 	/** Folders whose sub-folders hold plug-ins. */

@@ -8,8 +8,8 @@
 struct FDebug
 {
 	/**
-	 * Logs the failure, prints it to the standard error stream and ends the process at once with exit code 3: nothing is
-	 * unwound, shut down or saved. The message may be empty; no call stack is written.
+	 * Prints the failure to the standard error stream and ends the process at once with exit code 3: nothing is unwound,
+	 * shut down or saved. The message may be empty; no call stack is written.
 	 */
 	[[noreturn]] CORE_API static void CheckFailed(
 		const ANSICHAR* Expression, const ANSICHAR* File, int32 Line, const FString& Message);

@@ -27,7 +27,6 @@ UClass* Define(UClass* Class, size_t Size, const TCHAR* ConfigName, UClass::FCon
 	Class->SuperStruct = Super;
 	Class->PropertiesSize = static_cast<int32>(Size);
 	Class->ClassConfigName = FName(ConfigName);
-	Class->ClassFlags = CLASS_Native | (Class->ClassConfigName.IsNone() ? CLASS_None : CLASS_Config);
 	Class->ClassConstructor = Constructor;
 	return Class;
 }
@@ -84,20 +83,13 @@ FProperty* UStruct::FindPropertyByName(FName Name) const
 	return SuperStruct ? SuperStruct->FindPropertyByName(Name) : nullptr;
 }
 
-const FString& FMetaDataOwner::GetMetaData(const FName& Key) const
-{
-	static const FString None;
-	const FString* Found = MetaData.Find(Key);
-	return Found ? *Found : None;
-}
-
 UObject* UClass::GetDefaultObject()
 {
 	if (!DefaultObject && ClassConstructor)
 	{
 		const FName Name(*(TEXT("Default__") + GetName()));
 		DefaultObject = StaticConstructObject(this, GetOuter(), Name, RF_Public | RF_ClassDefaultObject);
-		if (HasAnyClassFlags(CLASS_Config))
+		if (!ClassConfigName.IsNone())
 		{
 			HostConfig::Load(*DefaultObject);
 		}
@@ -118,20 +110,6 @@ UScriptStruct* HostReflection::NewStruct(const TCHAR* Package, const TCHAR* Name
 	Struct->SuperStruct = Super;
 	Struct->PropertiesSize = static_cast<int32>(Size);
 	return Struct;
-}
-
-void HostReflection::AddMetaData(FMetaDataOwner* Owner, FMetaData MetaData)
-{
-	for (const auto& [Key, Value] : MetaData)
-	{
-		Owner->MetaData.Add(Key, Value);
-	}
-}
-
-void HostReflection::AddProperty(UStruct* Type, FProperty* Property, FMetaData MetaData)
-{
-	Type->Properties.emplace_back(Property);
-	AddMetaData(Property, MetaData);
 }
 
 FRegisterCompiledInInfo::FRegisterCompiledInInfo(std::initializer_list<FMake> Makers)

@@ -49,7 +49,7 @@ void HostConfig::Load(UObject& DefaultObject)
 void UObject::SaveConfig(uint64 RequiredPropertyFlags, const TCHAR* Filename, FConfigCacheIni*, bool)
 {
 	const UClass& Class = *GetClass();
-	if (Class.HasAnyClassFlags(CLASS_Config))
+	if (!Class.ClassConfigName.IsNone())
 	{
 		HostTrace::Line(TEXT("save config of %s"), *Class.GetName());
 		HostConfig::Write(

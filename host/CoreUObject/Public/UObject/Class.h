@@ -9,20 +9,8 @@
 
 class FProperty;
 
-/** What is written beside a declaration: its comment, and what the header tool was told of it. */
-class COREUOBJECT_API FMetaDataOwner
-{
-public:
-	/** Empty when there is none of that key. */
-	const FString& GetMetaData(const FName& Key) const;
-
-	TMap<FName, FString> MetaData;
-};
-
 /** A reflected type: its properties and its base. */
-class COREUOBJECT_API UStruct
-	: public UObject
-	, public FMetaDataOwner
+class COREUOBJECT_API UStruct : public UObject
 {
 public:
 	UStruct();
@@ -60,16 +48,12 @@ public:
 
 	static UClass* StaticClass();
 
-	bool HasAnyClassFlags(EClassFlags Flags) const { return (ClassFlags & Flags) != 0; }
-
 	UClass* GetSuperClass() const { return static_cast<UClass*>(SuperStruct); }
 
 	/** The object that holds the defaults; made on the first call, its config read from the file. */
 	UObject* GetDefaultObject();
 
-	uint32 ClassFlags = CLASS_None;
-
-	/** Name of the config file, such as "EditorPerProjectUserSettings". */
+	/** Name of the config file, such as "EditorPerProjectUserSettings"; NAME_None for a class without config. */
 	FName ClassConfigName;
 
 	/** Null for abstract classes. */

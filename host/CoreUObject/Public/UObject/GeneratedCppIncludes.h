@@ -7,11 +7,10 @@
 #include "UObject/UnrealType.h"
 
 #include <initializer_list>
+#include <memory>
 
 namespace HostReflection
 {
-using FMetaData = std::initializer_list<std::pair<const TCHAR*, const TCHAR*>>;
-
 /** Calls the constructor that takes the initializer, or else the default one. */
 template <class T>
 void Construct(const FObjectInitializer& Initializer)
@@ -33,15 +32,10 @@ COREUOBJECT_API UClass* NewClass(const TCHAR* Package, const TCHAR* Name, size_t
 
 COREUOBJECT_API UScriptStruct* NewStruct(const TCHAR* Package, const TCHAR* Name, size_t Size, UScriptStruct* Super);
 
-COREUOBJECT_API void AddMetaData(FMetaDataOwner* Owner, FMetaData MetaData);
-
-/** Takes the property over. */
-COREUOBJECT_API void AddProperty(UStruct* Type, FProperty* Property, FMetaData MetaData);
-
 template <class T>
-void AddProperty(UStruct* Type, const FPropertyDeclaration& Declaration, FMetaData MetaData)
+void AddProperty(UStruct* Type, const FPropertyDeclaration& Declaration)
 {
-	AddProperty(Type, new FProperty(Declaration, std::type_identity<T>()), MetaData);
+	Type->Properties.push_back(std::make_unique<FProperty>(Declaration, std::type_identity<T>()));
 }
 } // namespace HostReflection
 

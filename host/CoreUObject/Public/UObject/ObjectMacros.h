@@ -25,22 +25,11 @@ constexpr EObjectFlags operator|(EObjectFlags A, EObjectFlags B)
 	return static_cast<EObjectFlags>(static_cast<uint32>(A) | static_cast<uint32>(B));
 }
 
-enum EClassFlags : uint32
-{
-	CLASS_None = 0x0,
-	CLASS_DefaultConfig = 0x2,
-	CLASS_Config = 0x4,
-	CLASS_Native = 0x80,
-};
-
-/** The values are the host's own, but for CPF_Config. */
 enum EPropertyFlags : uint64
 {
+	CPF_None = 0x0,
 	CPF_Edit = 0x1,
 	CPF_Config = 0x4000,
-	CPF_NativeAccessSpecifierPublic = 0x100000,
-	CPF_NativeAccessSpecifierProtected = 0x200000,
-	CPF_NativeAccessSpecifierPrivate = 0x400000,
 };
 
 /** The class or struct of a reflected type; specialised by the header tool. */

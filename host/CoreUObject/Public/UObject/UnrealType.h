@@ -115,9 +115,6 @@ struct FPropertyDeclaration
 {
 	const TCHAR* Name;
 
-	/** In C++, such as "float" or "TArray<FName>". */
-	const TCHAR* Type;
-
 	/** In bytes from the begin of the owner. */
 	size_t Offset;
 
@@ -125,7 +122,7 @@ struct FPropertyDeclaration
 	uint64 Flags;
 };
 
-class FProperty : public FMetaDataOwner
+class FProperty
 {
 public:
 	/** @param T the type in C++ */
@@ -142,8 +139,6 @@ public:
 	FName GetFName() const { return Declaration.Name; }
 
 	FString GetName() const { return Declaration.Name; }
-
-	FString GetCPPType() const { return Declaration.Type; }
 
 	bool HasAnyPropertyFlags(uint64 FlagsToCheck) const { return (Declaration.Flags & FlagsToCheck) != 0; }
 
