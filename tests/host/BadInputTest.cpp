@@ -88,23 +88,22 @@ TEST_F(BadInput, StoriesNameFileLineAndColumn)
 
 TEST_F(BadInput, PluginsNameTheFileAndWhatIsWrong)
 {
-	const std::string Good = R"({"Modules": [{"Name": "Bad", "Type": "Editor"}]})";
-	const std::string List = R"({"BuildId": "x", "Modules": {"Bad": "UnrealEditor-Bad.dll"}})";
-	Write("plugins/Bad/Bad.uplugin", "{\n\t\"Modules\": [,]\n}");
-	ExpectReason(L"start.story", "Bad.uplugin:2:14: no JSON: ");
-	Write("plugins/Bad/Bad.uplugin", "[]");
-	ExpectReason(L"start.story", "Bad.uplugin:1:1: no JSON object");
-	Write("plugins/Bad/Bad.uplugin", R"({"Modules": [{"Type": "Editor"}]})");
-	ExpectReason(L"start.story", "Bad.uplugin: module 1 has no \"Name\" or no \"Type\"");
-
-	Write("plugins/Bad/Bad.uplugin", Good);
-	ExpectReason(L"start.story", "UnrealEditor.modules: cannot be read");
-	Write("plugins/Bad/Binaries/Win64/UnrealEditor.modules", R"({"BuildId": "x", "Extra": 1})");
-	ExpectReason(L"start.story", "UnrealEditor.modules: unknown key \"Extra\"");
-	Write("plugins/Bad/Binaries/Win64/UnrealEditor.modules", List);
-	ExpectReason(L"start.story", "UnrealEditor-Bad.dll: the library file is missing");
-	Write("plugins/Bad/Binaries/Win64/UnrealEditor-Bad.dll", "no library");
-	ExpectReason(L"start.story", "UnrealEditor-Bad.dll: the operating system could not load the library");
+	const auto ExpectRefusal = [this](const char* File, const char* Text, const std::string& Reason)
+	{
+		Write(File, Text);
+		ExpectReason(L"start.story", Reason);
+	};
+	const char* const Plugin = "plugins/Bad/Bad.uplugin";
+	const char* const List = "plugins/Bad/Binaries/Win64/UnrealEditor.modules";
+	ExpectRefusal(Plugin, R"({"Modules": [,]})", "Bad.uplugin: no JSON object with \"Modules\"");
+	ExpectRefusal(Plugin, R"({"Modules": [{"Type": "Editor"}]})", "Bad.uplugin: a module without \"Name\"");
+	ExpectRefusal(Plugin, R"({"Modules": [{"Name": "Bad", "Type": "Editor", "LoadingPhase": "Default"}]})",
+		"UnrealEditor.modules: cannot be read");
+	ExpectRefusal(List, R"({"Modules": {}, "Extra": 1})", "UnrealEditor.modules: unknown key \"Extra\"");
+	ExpectRefusal(List, R"({"BuildId": "x", "Modules": {"Bad": "UnrealEditor-Bad.dll"}})",
+		"UnrealEditor-Bad.dll: the library file is missing");
+	ExpectRefusal("plugins/Bad/Binaries/Win64/UnrealEditor-Bad.dll", "no library",
+		"UnrealEditor-Bad.dll: the operating system could not load the library");
 
 	// Any library without the export will do.
 	wchar_t System[MAX_PATH];

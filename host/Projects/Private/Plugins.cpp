@@ -4,15 +4,86 @@
 #include "Interfaces/IPluginManager.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
-#include "PluginDescriptor.h"
 
 #include <filesystem>
+#include <fstream>
+#include <rapidjson/document.h>
 #include <set>
 #include <stdexcept>
 
 namespace
 {
+struct FModuleDescriptor
+{
+	FString Name;
+	FString Type;
+	FString LoadingPhase;
+};
+
+struct FPluginDescriptor
+{
+	/** Path of the .uplugin file. */
+	FString File;
+	TArray<FModuleDescriptor> Modules;
+};
+
 TArray<FPluginDescriptor> Plugins;
+
+void Require(bool bIsTrue, const FString& File, const std::string& Reason)
+{
+	if (!bIsTrue)
+	{
+		throw std::runtime_error(TCHAR_TO_UTF8(*File) + (": " + Reason));
+	}
+}
+
+/** The object that is the whole file; it has an array or object "Modules". */
+rapidjson::Document ReadJson(const FString& File, rapidjson::Type ModulesType)
+{
+	std::ifstream Stream(std::filesystem::path(*File), std::ios::binary);
+	Require(Stream.is_open(), File, "cannot be read");
+	const std::string Json(std::istreambuf_iterator<char>(Stream), {});
+	rapidjson::Document Document;
+	Document.Parse<rapidjson::kParseIterativeFlag>(Json.data(), Json.size());
+	Require(Document.IsObject() && Document.HasMember("Modules") && Document["Modules"].GetType() == ModulesType, File,
+		"no JSON object with \"Modules\"");
+	return Document;
+}
+
+FString Member(const rapidjson::Value& Object, const char* Name, const FString& File)
+{
+	Require(Object.HasMember(Name) && Object[Name].IsString(), File, std::string("a module without \"") + Name + "\"");
+	return UTF8_TO_TCHAR(Object[Name].GetString());
+}
+
+FPluginDescriptor ReadDescriptor(const FString& File)
+{
+	const rapidjson::Document Document = ReadJson(File, rapidjson::kArrayType);
+	FPluginDescriptor Descriptor{File, {}};
+	for (const rapidjson::Value& Entry : Document["Modules"].GetArray())
+	{
+		Descriptor.Modules.Add(
+			{Member(Entry, "Name", File), Member(Entry, "Type", File), Member(Entry, "LoadingPhase", File)});
+	}
+	return Descriptor;
+}
+
+/** Tells the module manager of the libraries in the list that lies beside them. */
+void ReadModuleList(const FString& Binaries)
+{
+	const FString File = FPaths::Combine(Binaries, TEXT("UnrealEditor.modules"));
+	const rapidjson::Document Document = ReadJson(File, rapidjson::kObjectType);
+	for (const auto& Entry : Document.GetObject())
+	{
+		const std::string Key = Entry.name.GetString();
+		Require(Key == "BuildId" || Key == "Modules", File, "unknown key \"" + Key + "\"");
+	}
+	for (const auto& Module : Document["Modules"].GetObject())
+	{
+		FModuleManager::Get().SetModuleFilename(
+			Module.name.GetString(), FPaths::Combine(Binaries, FString(UTF8_TO_TCHAR(Module.value.GetString()))));
+	}
+}
 
 /** The descriptors directly below the folder's sub-folders, in the order of their paths. */
 std::set<std::filesystem::path> FindDescriptors(const FString& Folder)
@@ -46,17 +117,10 @@ void HostPlugins::Discover(const FString& PluginsFolder)
 {
 	for (const std::filesystem::path& File : FindDescriptors(PluginsFolder))
 	{
-		const FPluginDescriptor Descriptor = ReadPluginDescriptor(File.generic_wstring().c_str());
-		Plugins.Add(Descriptor);
-		if (Descriptor.Modules.IsEmpty())
+		const FPluginDescriptor& Descriptor = Plugins.Emplace_GetRef(ReadDescriptor(File.generic_wstring().c_str()));
+		if (!Descriptor.Modules.IsEmpty())
 		{
-			continue;
-		}
-		const FString Binaries = FPaths::Combine(FPaths::GetPath(Descriptor.File), TEXT("Binaries/Win64"));
-		for (const auto& [Module, Library] :
-			ReadModuleManifest(FPaths::Combine(Binaries, TEXT("UnrealEditor.modules"))))
-		{
-			FModuleManager::Get().SetModuleFilename(Module, FPaths::Combine(Binaries, Library));
+			ReadModuleList(FPaths::Combine(FPaths::GetPath(Descriptor.File), TEXT("Binaries/Win64")));
 		}
 	}
 }
@@ -68,13 +132,9 @@ void HostPlugins::LoadModules(const FString& Phase, bool bIsCommandlet)
 		for (const FModuleDescriptor& Module : Plugin.Modules)
 		{
 			FString Reason;
-			if (LoadsHere(Module, Phase, bIsCommandlet) &&
-				!FModuleManager::Get().TryLoadModule(FName(Module.Name), Reason))
-			{
-				const FString Line =
-					FString::Printf(TEXT("%s: module \"%s\": %s"), *Plugin.File, *Module.Name, *Reason);
-				throw std::runtime_error(TCHAR_TO_UTF8(*Line));
-			}
+			const bool bIsFine = !LoadsHere(Module, Phase, bIsCommandlet) ||
+								 FModuleManager::Get().TryLoadModule(FName(Module.Name), Reason);
+			Require(bIsFine, Plugin.File, TCHAR_TO_UTF8(*Reason));
 		}
 	}
 }

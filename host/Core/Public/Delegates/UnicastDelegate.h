@@ -44,7 +44,7 @@ public:
 	{
 		TDelegate Delegate = CreateRaw(&InUserObject.Get(), MethodPtr, Vars...);
 		Delegate.Binding->bIsWatched = true;
-		Delegate.Binding->Watched = InUserObject.Std();
+		Delegate.Binding->Watched = InUserObject;
 		return Delegate;
 	}
 

@@ -4,115 +4,73 @@
 #pragma once
 
 #include "Misc/AssertionMacros.h"
-#include "Templates/UnrealTemplate.h"
 
 #include <concepts>
 #include <memory>
 
-/** A pointer or reference whose object may be owned as T too. */
-template <class PointerType, class T>
-concept CSharedOwnerOf = std::convertible_to<decltype(std::declval<const PointerType&>().Std()), std::shared_ptr<T>>;
-
 /** Has no move operations: nothing may leave it null. */
 template <class T>
-class TSharedRef
+class TSharedRef : public std::shared_ptr<T>
 {
 public:
-	/** For TSharedPtr, which knows that it is not null. */
-	explicit TSharedRef(std::shared_ptr<T> InObject) : Object(std::move(InObject)) {}
-
+	/** Of a pointer that is known not to be null. */
+	explicit TSharedRef(const std::shared_ptr<T>& Object) : std::shared_ptr<T>(Object) {}
 	TSharedRef(const TSharedRef&) = default;
 	TSharedRef& operator=(const TSharedRef&) = default;
 
 	template <class OtherType>
-	requires std::convertible_to<OtherType*, T*> TSharedRef(const TSharedRef<OtherType>& Other) : Object(Other.Std()) {}
-
-	T& Get() const { return *Object; }
-
-	T* operator->() const { return Object.get(); }
-
-	T& operator*() const { return *Object; }
-
-	friend bool operator==(const TSharedRef& A, const TSharedRef& B) { return A.Object == B.Object; }
-
-	/** For the other pointers. */
-	const std::shared_ptr<T>& Std() const { return Object; }
-
-private:
-	std::shared_ptr<T> Object;
-};
-
-template <class T>
-class TSharedPtr
-{
-public:
-	TSharedPtr() = default;
-	TSharedPtr(std::nullptr_t) {}
-	explicit TSharedPtr(std::shared_ptr<T> InObject) : Object(std::move(InObject)) {}
-
-	template <CSharedOwnerOf<T> PointerType>
-	TSharedPtr(const PointerType& Other) : Object(Other.Std())
+	requires std::convertible_to<OtherType*, T*> TSharedRef(const TSharedRef<OtherType>& Other)
+		: std::shared_ptr<T>(Other)
 	{
 	}
 
-	bool IsValid() const { return Object != nullptr; }
+	T& Get() const { return **this; }
+};
 
-	explicit operator bool() const { return IsValid(); }
+template <class T>
+class TSharedPtr : public std::shared_ptr<T>
+{
+public:
+	using std::shared_ptr<T>::shared_ptr;
+	TSharedPtr(const std::shared_ptr<T>& Object) : std::shared_ptr<T>(Object) {}
 
-	T* Get() const { return Object.get(); }
+	bool IsValid() const { return this->get() != nullptr; }
+	T* Get() const { return this->get(); }
 
 	/** Fatal on null, like the dereferences. */
 	[[nodiscard]] TSharedRef<T> ToSharedRef() const
 	{
 		check(IsValid());
-		return TSharedRef<T>(Object);
+		return TSharedRef<T>(*this);
 	}
-
 	T* operator->() const
 	{
 		check(IsValid());
 		return Get();
 	}
-
 	T& operator*() const { return *operator->(); }
 
-	void Reset() { Object.reset(); }
-
-	friend bool operator==(const TSharedPtr& A, const TSharedPtr& B) { return A.Object == B.Object; }
-
-	/** For the other pointers. */
-	const std::shared_ptr<T>& Std() const { return Object; }
-
-private:
-	std::shared_ptr<T> Object;
+	void Reset() { this->reset(); }
 };
 
 template <class T>
-class TWeakPtr
+class TWeakPtr : public std::weak_ptr<T>
 {
 public:
-	TWeakPtr() = default;
-	TWeakPtr(std::nullptr_t) {}
+	using std::weak_ptr<T>::weak_ptr;
+	TWeakPtr(std::nullptr_t = nullptr) {}
 
-	template <CSharedOwnerOf<T> PointerType>
-	TWeakPtr(const PointerType& Pointer) : Object(Pointer.Std())
-	{
-	}
-
-	bool IsValid() const { return !Object.expired(); }
+	bool IsValid() const { return !this->expired(); }
 
 	/** Null when the object is gone; keeps it alive otherwise. */
-	TSharedPtr<T> Pin() const { return TSharedPtr<T>(Object.lock()); }
-
-private:
-	std::weak_ptr<T> Object;
+	TSharedPtr<T> Pin() const { return this->lock(); }
 };
 
 /** Takes over a new object. Fatal on null. */
 template <class T>
 [[nodiscard]] TSharedRef<T> MakeShareable(T* InObject)
 {
-	return TSharedPtr<T>(std::shared_ptr<T>(InObject)).ToSharedRef();
+	return TSharedPtr<T>(InObject).ToSharedRef();
 }
 
 template <class T, class... ArgTypes>
@@ -125,13 +83,13 @@ template <class T, class... ArgTypes>
 template <class To, class From>
 TSharedPtr<To> StaticCastSharedPtr(const TSharedPtr<From>& Pointer)
 {
-	return TSharedPtr<To>(std::static_pointer_cast<To>(Pointer.Std()));
+	return std::static_pointer_cast<To>(Pointer);
 }
 
 template <class To, class From>
 TSharedRef<To> StaticCastSharedRef(const TSharedRef<From>& Ref)
 {
-	return TSharedRef<To>(std::static_pointer_cast<To>(Ref.Std()));
+	return TSharedRef<To>(std::static_pointer_cast<To>(Ref));
 }
 
 /** Lets an object find its own owners. */

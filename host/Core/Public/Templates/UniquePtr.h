@@ -7,32 +7,14 @@
 
 /** The only owner of an object. */
 template <typename T>
-class TUniquePtr
+class TUniquePtr : public std::unique_ptr<T>
 {
 public:
-	TUniquePtr() = default;
-	explicit TUniquePtr(T* InObject) : Object(InObject) {}
+	using std::unique_ptr<T>::unique_ptr;
 
-	template <typename OtherType>
-	requires std::is_convertible_v<OtherType*, T*> TUniquePtr(TUniquePtr<OtherType>&& Other) : Object(Other.Release())
-	{
-	}
-
-	bool IsValid() const { return Object != nullptr; }
-
-	T* Get() const { return Object.get(); }
-
-	T* operator->() const { return Get(); }
-
-	T& operator*() const { return *Get(); }
-
-	/** Gives the ownership to the caller. */
-	T* Release() { return Object.release(); }
-
-	void Reset() { Object.reset(); }
-
-private:
-	std::unique_ptr<T> Object;
+	bool IsValid() const { return this->get() != nullptr; }
+	T* Get() const { return this->get(); }
+	void Reset() { this->reset(); }
 };
 
 template <typename T, typename... ArgTypes>
