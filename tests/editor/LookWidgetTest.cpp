@@ -16,8 +16,8 @@ TEST_F(LookWidget, NeedsAViewportAndNothingElse)
 	Driver.Start(Options);
 	EXPECT_EXIT(SNew(STonalithWidget), testing::ExitedWithCode(3), testing::HasSubstr("Assertion failed: Viewport "));
 	Driver.OpenPane(TEXT("A"));
-	const TSharedRef<STonalithWidget> Widget =
-		SNew(STonalithWidget).Viewport(Driver.Pane(TEXT("A")).GetActiveViewport());
+	TSharedPtr<STonalithWidget> Widget = SNew(STonalithWidget).Viewport(Driver.Pane(TEXT("A")).GetActiveViewport());
+	const TWeakPtr<STonalithWidget> Weak = Widget;
 	int PaddedSlots = 0;
 	TSharedPtr<SMenuRow> Toggle;
 	Widget->ForEachWidget(
@@ -40,4 +40,10 @@ TEST_F(LookWidget, NeedsAViewportAndNothingElse)
 	EXPECT_FALSE(Toggle->IsChecked());
 	Toggle->ClickCheckBox();
 	EXPECT_TRUE(Toggle->IsChecked());
+
+	// What stays of it in the registered menu does not keep it.
+	Widget.Reset();
+	EXPECT_FALSE(Weak.IsValid());
+	Toggle->ClickCheckBox();
+	EXPECT_FALSE(Toggle->IsChecked());
 }

@@ -9,9 +9,6 @@ struct FDetailsViewArgs
 		ObjectsUseNameArea
 	};
 
-	/** Whether there is no text that asks for an object while none is shown. */
-	bool bHideSelectionTip = false;
-
 	/** Who the area with the object's name is for. */
 	ENameAreaSettings NameAreaSettings = ObjectsUseNameArea;
 };

@@ -3,7 +3,7 @@
 
 #include "UObject/NameTypes.h"
 
-// Nothing here uses these. The engine declares them wherever texts are known: a type of that name does not compile there.
+// Nothing here uses these. The engine declares them wherever texts are known, so plug-ins cannot have types so named.
 class FLocKey;
 class FStringTable;
 class FTextId;

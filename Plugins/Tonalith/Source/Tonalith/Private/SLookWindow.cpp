@@ -51,7 +51,6 @@ TSharedRef<SWidget> MakeControls(UTonalithObject& Look)
 {
 #if WITH_EDITOR
 	FDetailsViewArgs Arguments;
-	Arguments.bHideSelectionTip = true;
 	Arguments.NameAreaSettings = FDetailsViewArgs::HideNameArea;
 	const TSharedRef<IDetailsView> Controls =
 		FModuleManager::LoadModuleChecked<FPropertyEditorModule>("PropertyEditor").CreateDetailView(Arguments);

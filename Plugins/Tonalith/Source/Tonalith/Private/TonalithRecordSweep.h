@@ -1,6 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// Drops the display records of viewports that are gone: a later client at the same address would get them, and their looks
-// would live for good.
+// Drops the display records of viewports that are gone: a later client at the same address would get them, and their
+// looks would live for good.
 #pragma once
 
 #if WITH_EDITOR

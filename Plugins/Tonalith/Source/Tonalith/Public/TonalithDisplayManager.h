@@ -11,8 +11,9 @@ class FViewportClient;
 /**
  * Owns the records. A reference that was handed out stays valid until that client's record is removed, whatever else is
  * added or removed. Clients are keys only: they are never dereferenced, so a dead client's pointer is a valid argument.
- * The looks of all records are kept alive; one that is deleted becomes none. In the editor a record goes at the latest when its
- * client is neither in the editor's list of all viewport clients nor a play session's.
+ * The looks of all records are kept alive; one that is deleted becomes none.
+ * In the editor the records of clients that are neither in the editor's list of all viewport clients nor a play session's
+ * go by themselves, when that list changes and when a session ends.
  * Game thread.
  */
 class FTonalithDisplayManager final : public FGCObject

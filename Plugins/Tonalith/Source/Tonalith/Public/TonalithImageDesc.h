@@ -7,12 +7,12 @@
 #include <cstddef>
 
 /**
- * Describes a picture that stays the caller's; all fields are the caller's to fill. Plain data, laid out for other languages
- * and compilers.
+ * Describes a picture that stays the caller's; the caller fills all fields. Plain data, laid out for other languages and
+ * compilers.
  */
 struct FTonalithAPI_ImageDesc
 {
-	/** Of this layout: 1. */
+	/** Version of this layout: 1. */
 	int32 Version = 0;
 
 	/** Rows from top to bottom, pixels as red, green, blue, alpha, 8 bits each. */
@@ -26,15 +26,15 @@ struct FTonalithAPI_ImageDesc
 	int32 RowLength = 0;
 
 	/**
-	 * How the stored values, 0 to 1, map to light: scale and offset of the values, then of their exposure. Only 1, 0, 1 and 0
-	 * are served so far: values as they are stored.
+	 * How the stored values, 0 to 1, map to light: scale and offset of the values, then of their exposure. So far only 1,
+	 * 0, 1 and 0 are shown: values as they are stored.
 	 */
 	float ValueScale = 0.0f;
 	float ValueOffset = 0.0f;
 	float ExposureScale = 0.0f;
 	float ExposureOffset = 0.0f;
 
-	/** The values that count. Only ranges are served so far that cut nothing off: from 0 or below to 1 or above. */
+	/** The values that count. So far only ranges are shown that cut nothing off: from 0 or below to 1 or above. */
 	float Minimum = 0.0f;
 	float Maximum = 0.0f;
 
