@@ -43,6 +43,7 @@ FCommandLine Parse(int Count, wchar_t** Arguments)
 	const std::filesystem::path Bin = std::filesystem::absolute(Arguments[0]).parent_path();
 	FCommandLine Result;
 	Result.Options.ProjectFolder = (Bin / L"../session").generic_wstring().c_str();
+	Result.Options.Scene = EHostScene::Stage;
 	Result.Options.PluginFolders.Add((Bin / L"../stage").generic_wstring().c_str());
 	const std::map<std::wstring, std::function<void(const std::wstring&)>> Setters{
 		{L"-story", [&](const std::wstring& Value) { Result.Story = TCHAR_TO_UTF8(Value.c_str()); }},

@@ -106,6 +106,7 @@ TEST_F(LookAsset, OpenedTogetherEachGetsAFrameWithoutTheLook)
 		Driver.OpenAssets({WarmPath, ColdPath});
 		for (const TCHAR* Opened : {TEXT("Warm"), TEXT("Cold")})
 		{
+			Driver.Windows().MoveSlider(Opened, 1.0f);
 			const FPicture Frame = Driver.Windows().Picture(Opened);
 			ASSERT_EQ(Frame.Size, Size);
 			ASSERT_TRUE(IsSamePicture(Frame, Plain));

@@ -6,6 +6,7 @@
 #include "Framework/Application/SlateApplication.h"
 #include "Host/PropertyRow.h"
 #include "Widgets/Images/SImage.h"
+#include "Widgets/Input/SSlider.h"
 #include "Widgets/SWindow.h"
 
 namespace
@@ -39,6 +40,12 @@ WidgetType& FindWidget(const FString& Title, const FString& What, Predicate Fits
 	}
 	return *Found;
 }
+
+SPropertyRow& FindRow(const FString& Title, const FString& Property)
+{
+	return FindWidget<SPropertyRow>(
+		Title, TEXT("property ") + Property, [&](const SPropertyRow& Row) { return Row.GetName() == FName(Property); });
+}
 } // namespace
 
 TArray<FString> FWindowDriver::Titles() const
@@ -65,11 +72,19 @@ FPicture FWindowDriver::Picture(const FString& Title) const
 	return Picture;
 }
 
+void FWindowDriver::MoveSlider(const FString& Title, float Value) const
+{
+	FindWidget<SSlider>(Title, TEXT("slider"), [](const SSlider&) { return true; }).Draw(Value);
+}
+
 void FWindowDriver::EditProperty(const FString& Title, const FString& Property, const FString& Value) const
 {
-	FindWidget<SPropertyRow>(
-		Title, TEXT("property ") + Property, [&](const SPropertyRow& Row) { return Row.GetName() == FName(Property); })
-		.Edit(Value);
+	FindRow(Title, Property).Edit(Value);
+}
+
+void FWindowDriver::UndoEdit(const FString& Title, const FString& Property) const
+{
+	FindRow(Title, Property).Undo();
 }
 
 void FWindowDriver::Close(const FString& Title) const

@@ -4,42 +4,16 @@
 #include "CanvasTypes.h"
 #include "Engine/Engine.h"
 #include "SceneView.h"
+#include "Scenes.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <functional>
+#include <map>
+#include <tuple>
 
 namespace
 {
-constexpr uint8 Alpha = 0;
-
-constexpr FColor Patches[] = {{255, 0, 0, Alpha}, {0, 255, 0, Alpha}, {0, 0, 255, Alpha}, {0, 255, 255, Alpha},
-	{255, 0, 255, Alpha}, {255, 255, 0, Alpha}, {194, 150, 130, Alpha}, {87, 108, 67, Alpha}};
-
-/** How strong a primary is in a hue: 1 in the third of the circle around it, 0 in the opposite one. */
-double Primary(double Hue, double Centre)
-{
-	double Distance = std::abs(Hue - Centre);
-	Distance = std::min(Distance, 1.0 - Distance);
-	return std::clamp(2.0 - 6.0 * Distance, 0.0, 1.0);
-}
-
-FColor Hue(double Across, double Down)
-{
-	const auto Channel = [&](double Centre)
-	{ return static_cast<uint8>(std::lround(255.0 * (Down + (1.0 - Down) * Primary(Across, Centre)))); };
-	return FColor(Channel(0.0), Channel(1.0 / 3.0), Channel(2.0 / 3.0), Alpha);
-}
-
-/** The last of a number of steps is 1, the first 0. */
-double Fraction(int32 Index, int32 Count)
-{
-	return Count > 1 ? static_cast<double>(Index) / (Count - 1) : 0.0;
-}
-
-/** Red, green and blue in linear light; 1 is white. */
-using FLight = std::array<double, 3>;
-
 /** A stored value of 0 to 255 as linear light, after the sRGB standard (IEC 61966-2-1). */
 double Decoded(uint8 Stored)
 {
@@ -77,27 +51,40 @@ FColor Graded(const FColor& Plain, const FPostProcessSettings& Settings)
 		double Value = std::max(0.0, Luminance + (Light[Channel] - Luminance) * Saturation[Channel]);
 		Value = std::pow(Value / MiddleGrey, Contrast[Channel]) * MiddleGrey;
 		Value = std::pow(Value, 1.0 / Gamma[Channel]);
-		return Encoded(Value * Gain[Channel] + Shift[Channel]);
+		// The power may be infinite, and no gain is still none.
+		return Encoded((Gain[Channel] > 0.0 ? Value * Gain[Channel] : 0.0) + Shift[Channel]);
 	};
 	return FColor(Grade(0), Grade(1), Grade(2), Plain.A);
 }
-} // namespace
 
-FColor HostScene::ChartColor(FIntPoint Pixel, FIntPoint Size)
+EHostScene Shown = EHostScene::Chart;
+
+/** The mean of four places in the pixel. */
+FColor StageColor(FIntPoint Pixel, FIntPoint Size)
 {
-	const int32 PatchTop = Size.Y / 2;
-	const int32 RampTop = Size.Y * 3 / 4;
-	if (Pixel.Y < PatchTop)
+	FLight Sum{};
+	for (const auto& [X, Y] : {std::pair(0.25, 0.25), {0.75, 0.25}, {0.25, 0.75}, {0.75, 0.75}})
 	{
-		return Hue(static_cast<double>(Pixel.X) / Size.X, static_cast<double>(Pixel.Y) / PatchTop);
+		const FLight Light =
+			StageLight((Pixel.X + X) / Size.X, (Pixel.Y + Y) / Size.Y, static_cast<double>(Size.X) / Size.Y);
+		std::transform(Light.begin(), Light.end(), Sum.begin(), Sum.begin(), std::plus());
 	}
-	if (Pixel.Y < RampTop)
-	{
-		return Patches[Pixel.X * 8 / Size.X];
-	}
-	const uint8 Grey = static_cast<uint8>(std::lround(255.0 * Fraction(Pixel.X, Size.X)));
-	return FColor(Grey, Grey, Grey, Alpha);
+	return FColor(Encoded(Sum[0] / 4.0), Encoded(Sum[1] / 4.0), Encoded(Sum[2] / 4.0), 0);
 }
+
+/** The scene in a size, which is drawn once. */
+const TArray<FColor>& PlainPicture(FIntPoint Size)
+{
+	static std::map<std::tuple<EHostScene, int32, int32>, TArray<FColor>> Pictures;
+	TArray<FColor>& Picture = Pictures[{Shown, Size.X, Size.Y}];
+	for (int32 Index = Picture.Num(); Index < Size.X * Size.Y; ++Index)
+	{
+		const FIntPoint Pixel(Index % Size.X, Index / Size.X);
+		Picture.Add(Shown == EHostScene::Chart ? ChartColor(Pixel, Size) : StageColor(Pixel, Size));
+	}
+	return Picture;
+}
+} // namespace
 
 void HostScene::Draw(FViewport& Viewport, FCanvas& Canvas)
 {
@@ -112,12 +99,14 @@ void HostScene::Draw(FViewport& Viewport, FCanvas& Canvas)
 		Extension->BeginRenderViewFamily(Family);
 	}
 	const FPostProcessSettings& Settings = View.FinalPostProcessSettings;
-	for (int32 Y = 0; Y < Canvas.Size.Y; ++Y)
+	const TArray<FColor>& Picture = PlainPicture(Canvas.Size);
+	for (int32 Index = 0; Index < Picture.Num(); ++Index)
 	{
-		for (int32 X = 0; X < Canvas.Size.X; ++X)
-		{
-			const FColor Plain = ChartColor({X, Y}, Canvas.Size);
-			Canvas.Pixels[Y * Canvas.Size.X + X] = Extensions.IsEmpty() ? Plain : Graded(Plain, Settings);
-		}
+		Canvas.Pixels[Index] = Extensions.IsEmpty() ? Picture[Index] : Graded(Picture[Index], Settings);
 	}
+}
+
+void HostScene::Show(EHostScene Scene)
+{
+	Shown = Scene;
 }

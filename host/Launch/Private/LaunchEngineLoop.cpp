@@ -46,6 +46,7 @@ bool FEngineLoop::Init(const FEngineLoopOptions& Options, FString& OutError) noe
 	bIsCommandlet = Options.bIsCommandlet;
 	HostProject::SetFolder(Options.ProjectFolder);
 	HostCulture::Set(Options.Culture);
+	HostScene::Show(Options.Scene);
 	HostAssets::Scan();
 	try
 	{
@@ -111,6 +112,7 @@ void FEngineLoop::Tick() noexcept
 	{
 		GEditor->Tick();
 		UToolMenus::Get()->Tick();
+		FSlateApplication::Get().Tick();
 	}
 }
 

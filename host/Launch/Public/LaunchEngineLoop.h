@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Host/SceneRenderer.h"
 
 struct FEngineLoopOptions
 {
@@ -14,6 +15,8 @@ struct FEngineLoopOptions
 
 	/** The editor's culture, such as "en" or "fr-CA". */
 	FString Culture = TEXT("en");
+
+	EHostScene Scene = EHostScene::Chart;
 
 	/** Without user interface and editor engine; the engine loop never reports completion. */
 	bool bIsCommandlet = false;

@@ -36,6 +36,14 @@ FSlateApplication& FSlateApplication::Get()
 	return *CurrentApplication;
 }
 
+void FSlateApplication::Tick()
+{
+	for (const TSharedRef<SWindow>& Window : GetTopLevelWindows())
+	{
+		Window->ForEachWidget([](SWidget& Widget) { Widget.ExecuteActiveTimers(); });
+	}
+}
+
 TSharedRef<SWindow> FSlateApplication::AddWindow(TSharedRef<SWindow> InSlateWindow, const bool)
 {
 	HostTrace::Line(TEXT("open window %s"), *InSlateWindow->GetTitle().ToString());

@@ -9,6 +9,8 @@
 #define DECLARE_DELEGATE_RetVal(Ret, Name) using Name = TDelegate<Ret()>
 #define DECLARE_DELEGATE_RetVal_OneParam(Ret, Name, P1) using Name = TDelegate<Ret(P1)>
 
+#define DECLARE_DELEGATE_RetVal_TwoParams(Ret, Name, P1, P2) using Name = TDelegate<Ret(P1, P2)>
+
 #define DECLARE_MULTICAST_DELEGATE(Name) using Name = TMulticastDelegate<void()>
 #define DECLARE_MULTICAST_DELEGATE_OneParam(Name, P1) using Name = TMulticastDelegate<void(P1)>
 #define DECLARE_MULTICAST_DELEGATE_TwoParams(Name, P1, P2) using Name = TMulticastDelegate<void(P1, P2)>

@@ -1,6 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Internationalization/Text.h"
 #include "Templates/SharedPointer.h"
 
 class FCulture;
@@ -16,3 +17,6 @@ public:
 	/** Fatal when there is none. */
 	CORE_API FCultureRef GetCurrentCulture() const;
 };
+
+/** A text in English; the host has no translations of it. LOCTEXT_NAMESPACE must be defined. */
+#define LOCTEXT(Key, English) FText::FromString(TEXT(English))

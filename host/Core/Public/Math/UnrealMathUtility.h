@@ -13,4 +13,7 @@ struct FMath
 	}
 
 	static bool IsFinite(double A) { return std::isfinite(A); }
+
+	/** Halves go up. */
+	static int32 RoundToInt32(float F) { return static_cast<int32>(std::floor(F + 0.5f)); }
 };

@@ -3,6 +3,7 @@
 
 #include "UObject/Class.h"
 #include "UObject/UObjectGlobals.h"
+#include "UObject/UnrealType.h"
 
 UObject::UObject()
 {
@@ -39,6 +40,12 @@ bool UObject::MarkPackageDirty() const
 {
 	GetPackage()->SetDirtyFlag(true);
 	return true;
+}
+
+void UObject::PostEditUndo()
+{
+	FPropertyChangedEvent Event(nullptr);
+	PostEditChangeProperty(Event);
 }
 
 bool UObject::IsA(const UClass* SomeBase) const

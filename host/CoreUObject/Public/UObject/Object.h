@@ -76,7 +76,10 @@ public:
 	/** The object's destruction begins; what overrides this calls it last. */
 	virtual void BeginDestroy() {}
 
-	/** A property was changed by a user. */
+	/** A change was taken back by a user. */
+	virtual void PostEditUndo();
+
+	/** A property was changed by a user; null for any. */
 	virtual void PostEditChangeProperty(FPropertyChangedEvent&) {}
 
 	/** Weak pointers give null from now on; the next collection destroys the object. */

@@ -1,20 +1,24 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// Stands in for the renderer: the scene of every world is a test chart as large as the viewport.
+// Stands in for the renderer: every world holds the same scene, as large as the viewport.
 #pragma once
 
-#include "CoreMinimal.h"
+#include "HAL/Platform.h"
 
 class FCanvas;
 class FViewport;
 
+enum class EHostScene : uint8
+{
+	/** Colors that are known exactly, for tests. */
+	Chart,
+
+	/** What looks like a picture. */
+	Stage,
+};
+
 namespace HostScene
 {
-/**
- * The chart, from top to bottom: the upper half sweeps the hues from left to right and loses saturation downwards; then
- * come eight patches (red, green, blue, cyan, magenta, yellow, a skin, a foliage); the last quarter is a ramp from black
- * to white. Alpha is 0, as scenes leave it.
- */
-ENGINE_API FColor ChartColor(FIntPoint Pixel, FIntPoint Size);
+ENGINE_API void Show(EHostScene Scene);
 
 ENGINE_API void Draw(FViewport& Viewport, FCanvas& Canvas);
 } // namespace HostScene

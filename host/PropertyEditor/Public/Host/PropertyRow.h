@@ -24,12 +24,24 @@ public:
 	{
 		if (UObject* Object = Row._Object.Get())
 		{
+			Before = Row._Property->ToLines(Object);
 			Row._Property->ReadLines({Value}, Object);
 			FPropertyChangedEvent Event(Row._Property);
 			Object->PostEditChangeProperty(Event);
 		}
 	}
 
+	/** Takes the last edit back. */
+	void Undo()
+	{
+		if (UObject* Object = Row._Object.Get())
+		{
+			Row._Property->ReadLines(Before, Object);
+			Object->PostEditUndo();
+		}
+	}
+
 private:
 	FArguments Row;
+	TArray<FString> Before;
 };

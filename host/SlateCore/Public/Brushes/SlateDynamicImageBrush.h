@@ -13,6 +13,7 @@ struct FSlateDynamicImageBrush : public FSlateBrush
 		ESlateBrushTileType::Type InTiling = ESlateBrushTileType::NoTile,
 		ESlateBrushImageType::Type InImageType = ESlateBrushImageType::NoImage)
 	{
+		HostTrace::Line(TEXT("create texture"));
 		const TSharedPtr<FSlateDynamicImageBrush> Brush = MakeShared<FSlateDynamicImageBrush>();
 		Brush->ResourceName = InTextureName;
 		Brush->ImageSize = FVector2f(static_cast<float>(InImageSize.X), static_cast<float>(InImageSize.Y));

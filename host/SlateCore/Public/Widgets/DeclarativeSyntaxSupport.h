@@ -44,6 +44,11 @@ public:                                                                         
 		return *this;                                                                                                  \
 	}                                                                                                                  \
 	template <class UserClass, class MethodType>                                                                       \
+	WidgetArgsType& EventName(UserClass* InUserObject, MethodType InMethod)                                            \
+	{                                                                                                                  \
+		return EventName(DelegateName::CreateSP(InUserObject, InMethod));                                              \
+	}                                                                                                                  \
+	template <class UserClass, class MethodType>                                                                       \
 	WidgetArgsType& EventName##_Raw(UserClass* InUserObject, MethodType InMethod)                                      \
 	{                                                                                                                  \
 		return EventName(DelegateName::CreateRaw(InUserObject, InMethod));                                             \

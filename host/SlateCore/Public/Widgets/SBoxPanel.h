@@ -47,6 +47,9 @@ struct FVerticalBoxSlot : TSlot<FVerticalBoxSlot>
 		bIsAutoSized = true;
 		return *this;
 	}
+
+	/** How much of the height that is left, in relation to the others. */
+	FVerticalBoxSlot& FillHeight(float) { return *this; }
 };
 
 struct FHorizontalBoxSlot : TSlot<FHorizontalBoxSlot>

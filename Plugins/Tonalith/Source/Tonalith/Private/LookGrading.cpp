@@ -47,3 +47,20 @@ void BlendLook(const UTonalithObject& Look, float Weight, FPostProcessSettings& 
 	Settings.bOverride_ColorGain = true;
 	Settings.bOverride_ColorOffset = true;
 }
+
+LookColor::FGrading GradingOf(const UTonalithObject& Look)
+{
+	FPostProcessSettings Settings;
+	BlendLook(Look, 1.0f, Settings);
+	const auto Channel = [&Settings](double FVector4::*Color)
+	{
+		LookColor::FChannelGrading Grading;
+		Grading.Saturation = Settings.ColorSaturation.*Color * Settings.ColorSaturation.W;
+		Grading.Contrast = Settings.ColorContrast.*Color * Settings.ColorContrast.W;
+		Grading.Gamma = Settings.ColorGamma.*Color * Settings.ColorGamma.W;
+		Grading.Gain = Settings.ColorGain.*Color * Settings.ColorGain.W;
+		Grading.Offset = Settings.ColorOffset.*Color + Settings.ColorOffset.W;
+		return Grading;
+	};
+	return {Channel(&FVector4::X), Channel(&FVector4::Y), Channel(&FVector4::Z)};
+}

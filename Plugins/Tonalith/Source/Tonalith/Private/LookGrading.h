@@ -1,6 +1,8 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// Looks in the engine's own colour grading.
+// Looks in the engine's own color grading, and in this module's.
 #pragma once
+
+#include "Color/Grading.h"
 
 class UTonalithObject;
 struct FPostProcessSettings;
@@ -11,3 +13,6 @@ struct FPostProcessSettings;
  * @param Weight 0 leaves the settings as they are, 1 sets the look in full
  */
 void BlendLook(const UTonalithObject& Look, float Weight, FPostProcessSettings& Settings);
+
+/** The look in full as functions of light, its values made valid likewise. */
+LookColor::FGrading GradingOf(const UTonalithObject& Look);

@@ -1,11 +1,8 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "SLookWindow.h"
 
-#include "Brushes/SlateDynamicImageBrush.h"
-#include "TonalithImageDesc.h"
+#include "SLookPicture.h"
 #include "TonalithObject.h"
-#include "Widgets/Images/SImage.h"
-#include "Widgets/Layout/SScaleBox.h"
 #include "Widgets/SBoxPanel.h"
 
 #if WITH_EDITOR
@@ -24,27 +21,6 @@ const FVector2D WindowSize(960.0, 480.0);
 /** How the window's width is shared. */
 constexpr float PictureShare = 2.0f;
 constexpr float ControlsShare = 1.0f;
-
-/** The picture's rows without gaps, its pixels in the order of textures: blue, green, red, alpha. */
-TArray<uint8> TextureFromPicture(const FTonalithAPI_ImageDesc& Image)
-{
-	constexpr int64 BytesPerPixel = 4;
-	TArray<uint8> Texture;
-	Texture.SetNumUninitialized(static_cast<int32>(BytesPerPixel * Image.Width * Image.Height));
-	uint8* Target = Texture.GetData();
-	for (int32 Row = 0; Row < Image.Height; ++Row)
-	{
-		const uint8* Pixel = Image.Pixels + BytesPerPixel * Row * Image.RowLength;
-		for (const uint8* const End = Pixel + BytesPerPixel * Image.Width; Pixel != End; Pixel += BytesPerPixel)
-		{
-			*Target++ = Pixel[2];
-			*Target++ = Pixel[1];
-			*Target++ = Pixel[0];
-			*Target++ = Pixel[3];
-		}
-	}
-	return Texture;
-}
 
 /** The look's properties to edit; nothing outside the editor. */
 TSharedRef<SWidget> MakeControls(UTonalithObject& Look)
@@ -74,11 +50,8 @@ void SLookWindow::Construct(const FArguments& InArgs)
 			+ SHorizontalBox::Slot()
 			.FillWidth(PictureShare)
 			[
-				SNew(SScaleBox)
-				.Stretch(EStretch::ScaleToFit)
-				[
-					SAssignNew(PictureWidget, SImage)
-				]
+				SAssignNew(Picture, SLookPicture)
+				.Look(InArgs._Look)
 			]
 			+ SHorizontalBox::Slot()
 			.FillWidth(ControlsShare)
@@ -89,15 +62,14 @@ void SLookWindow::Construct(const FArguments& InArgs)
 	// clang-format on
 }
 
-void SLookWindow::ShowPicture(const FTonalithAPI_ImageDesc& Image)
+void SLookWindow::ShowFrame(const FTonalithAPI_ImageDesc& Image)
 {
-	// Textures are found by name: a picture under the name of the one before would not be seen.
-	static uint32 Pictures = 0;
-	const FName Name(*FString::Printf(TEXT("TonalithPicture%u"), ++Pictures));
-	const TSharedPtr<FSlateDynamicImageBrush> Brush = FSlateDynamicImageBrush::CreateWithImageData(
-		Name, FVector2D(Image.Width, Image.Height), TextureFromPicture(Image));
-	PictureWidget->SetImage(Brush.Get());
-	PictureBrush = Brush;
+	Picture->ShowFrame(Image);
+}
+
+void SLookWindow::OnLookChanged()
+{
+	Picture->Regrade();
 }
 
 FText SLookWindow::GetLookName() const

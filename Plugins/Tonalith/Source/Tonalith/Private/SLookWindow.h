@@ -1,14 +1,13 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// The window of a look: a picture to judge the look by and, in the editor, the look's controls.
+// The window of a look: a frame with the look on it and, in the editor, the look's controls.
 #pragma once
 
 #include "UObject/WeakObjectPtr.h"
 #include "Widgets/DeclarativeSyntaxSupport.h"
 #include "Widgets/SWindow.h"
 
-class SImage;
+class SLookPicture;
 class UTonalithObject;
-struct FSlateDynamicImageBrush;
 struct FTonalithAPI_ImageDesc;
 
 /** Titled with the look's name; does not keep the look alive, which closes the window when it goes. */
@@ -24,13 +23,15 @@ public:
 
 	void Construct(const FArguments& InArgs);
 
-	/** Shows a picture instead of the one before. @param Image consistent; copied before the call returns */
-	void ShowPicture(const FTonalithAPI_ImageDesc& Image);
+	/** Shows a frame instead of the one before. @param Image consistent; copied before the call returns */
+	void ShowFrame(const FTonalithAPI_ImageDesc& Image);
+
+	/** The picture follows in the next frame. */
+	void OnLookChanged();
 
 private:
 	FText GetLookName() const;
 
 	FWeakObjectPtr Look;
-	TSharedPtr<SImage> PictureWidget;
-	TSharedPtr<FSlateDynamicImageBrush> PictureBrush;
+	TSharedPtr<SLookPicture> Picture;
 };

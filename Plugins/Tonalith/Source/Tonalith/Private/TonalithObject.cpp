@@ -10,16 +10,13 @@
 #include "UObject/UnrealType.h"
 #endif
 
-#include <limits>
-
 namespace
 {
 bool IsConsistent(const FTonalithAPI_ImageDesc& Image)
 {
-	// Its bytes are counted in 32 bits.
-	constexpr int32 MostPixels = std::numeric_limits<int32>::max() / 4;
-	return Image.Version == 1 && Image.Pixels && Image.Width > 0 && Image.Height > 0 &&
-		   Image.RowLength >= Image.Width && Image.Height <= MostPixels / Image.Width;
+	const auto IsSide = [](int32 Length) { return Length > 0 && Length <= FTonalithAPI_ImageDesc::LongestSide; };
+	return Image.Version == 1 && Image.Pixels && IsSide(Image.Width) && IsSide(Image.Height) &&
+		   Image.RowLength >= Image.Width;
 }
 
 /** The window shows the values as they are stored: 8 bits from 0 to 1. */
@@ -48,7 +45,7 @@ void UTonalithObject::DisplayUserInterface(FTonalithAPI_ImageDesc& Image)
 		FSlateApplication::Get().AddWindow(Shown.ToSharedRef());
 		Window = Shown;
 	}
-	Shown->ShowPicture(Image);
+	Shown->ShowFrame(Image);
 	Shown->BringToFront();
 }
 
@@ -66,6 +63,10 @@ void UTonalithObject::PostEditChangeProperty(FPropertyChangedEvent& PropertyChan
 {
 	Super::PostEditChangeProperty(PropertyChangedEvent);
 	MarkPackageDirty();
+	if (const TSharedPtr<SLookWindow> Shown = Window.Pin())
+	{
+		Shown->OnLookChanged();
+	}
 	if (GEditor)
 	{
 		GEditor->RedrawAllViewports();

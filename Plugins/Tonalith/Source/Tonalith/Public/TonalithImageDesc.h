@@ -12,13 +12,16 @@
  */
 struct FTonalithAPI_ImageDesc
 {
+	/** In pixels: of the largest texture. */
+	static constexpr int32 LongestSide = 16384;
+
 	/** Version of this layout: 1. */
 	int32 Version = 0;
 
 	/** Rows from top to bottom, pixels as red, green, blue, alpha, 8 bits each. */
 	const uint8* Pixels = nullptr;
 
-	/** In pixels. */
+	/** In pixels, 1 to LongestSide. */
 	int32 Width = 0;
 	int32 Height = 0;
 

@@ -45,9 +45,9 @@ public:
 	FVector4 Offset = FVector4(0.0, 0.0, 0.0, 0.0);
 
 	/**
-	 * Opens the look's window with a picture to judge the look by; a window that is open already comes to the front with
-	 * the new picture. A picture that its description contradicts, or that is not to be shown as it is stored, is refused
-	 * with a warning in the log. Nothing without a user interface, as in commandlets. Game thread.
+	 * Opens the look's window with a frame to judge the look by, the look on it in full; a window that is open already
+	 * comes to the front with the new frame. A frame that its description contradicts, or that is not to be shown as it
+	 * is stored, is refused with a warning in the log. Nothing without a user interface, as in commandlets. Game thread.
 	 * @param Image copied before the call returns
 	 */
 	TONALITH_API void DisplayUserInterface(FTonalithAPI_ImageDesc& Image);

@@ -26,6 +26,9 @@ public:
 	/** Fatal when there is none, or on another thread. */
 	SLATE_API static FSlateApplication& Get();
 
+	/** A frame of the windows. */
+	SLATE_API void Tick();
+
 	SLATE_API TSharedRef<SWindow> AddWindow(TSharedRef<SWindow> InSlateWindow, const bool bShowImmediately = true);
 
 	/** The window dies with the last reference to it. Nothing for a window that is closed already. */
