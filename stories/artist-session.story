@@ -1,10 +1,9 @@
 # An artist opens a project that holds five looks.
-new project
 put file ../Plugins/Tonalith/Translations ProgramData/Vantor/com.vantor.look/translations/unreal
 put file content Content
 start
 layout FourPanes2x2
-activate pane "FourPanes2x2.Viewport 1.Viewport0"
+open pane "FourPanes2x2.Viewport 1.Viewport0"
 save picture plain
 
 # The pane's own View menu has a place for looks. None is chosen yet.
@@ -30,7 +29,7 @@ open menu View TNLDisplaySubMenu
 expect menu "[x] Show Look"
 
 # Another pane gets another look.
-activate pane "FourPanes2x2.Viewport 1.Viewport3"
+open pane "FourPanes2x2.Viewport 1.Viewport3"
 open menu View TNLDisplaySubMenu
 expect menu "[ ] Show Look"
 open menu TNLAssetSelection
@@ -41,10 +40,10 @@ click EnableDisplay
 save picture cold
 
 # A play session starts with the look of the pane that was active.
-activate pane "FourPanes2x2.Viewport 1.Viewport0"
-play in pane
+open pane "FourPanes2x2.Viewport 1.Viewport0"
+play pane
 expect picture like warm
-end play
+play stop
 
 # That pane still has its own look. The look that a pane shows is not offered to it again.
 open menu View TNLDisplaySubMenu TNLAssetSelection
@@ -75,6 +74,18 @@ expect log "read pixels"
 open menu View TNLDisplaySubMenu TNLAssetSelection
 click Night
 expect picture like plain
+
+# Its controls are turned in its window. The frame there shows the look, and so does the pane.
+edit Night Saturation "(X=1,Y=1,Z=1,W=0.6)"
+edit Night Contrast "(X=1,Y=1,Z=1,W=1.3)"
+edit Night Gain "(X=0.5,Y=0.7,Z=1.2,W=0.8)"
+save picture "night in its window" Night
+expect picture unlike plain
+save picture night
+
+# A slider draws the frame as it was over that.
+slide Night 0.5
+save picture "half plain, half night" Night
 close pane "FourPanes2x2.Viewport 1.Viewport0"
 expect log "LogTemp: OnLevelViewportClientListChanged"
 quit
@@ -82,15 +93,15 @@ quit
 # The next morning every pane shows what it showed before.
 start
 layout FourPanes2x2
-activate pane "FourPanes2x2.Viewport 1.Viewport0"
+open pane "FourPanes2x2.Viewport 1.Viewport0"
 open menu View TNLDisplaySubMenu
 expect menu "[x] Show Look"
 expect menu "Night >"
-activate pane "FourPanes2x2.Viewport 1.Viewport3"
+open pane "FourPanes2x2.Viewport 1.Viewport3"
 open menu View TNLDisplaySubMenu
 expect menu "[x] Show Look"
 expect menu "Cold >"
-activate pane "FourPanes2x2.Viewport 1.Viewport1"
+open pane "FourPanes2x2.Viewport 1.Viewport1"
 open menu View TNLDisplaySubMenu
 expect menu "[ ] Show Look"
 expect menu "Choose a Look >"

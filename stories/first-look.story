@@ -1,7 +1,6 @@
 # An artist makes a look in the content browser; it opens at once. Later two looks are opened together.
-new project
 put file ../Plugins/Tonalith/Translations ProgramData/Vantor/com.vantor.look/translations/unreal
-asset /Script/Tonalith.TonalithObject /Game/Looks/Warm.Warm
+put file content/Looks/Warm.asset Content/Looks/Warm.asset
 start
 open pane "OnePane.Viewport 1.Viewport0"
 save picture plain

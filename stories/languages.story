@@ -1,5 +1,4 @@
 # Labels come from the string files, in the editor's language.
-new project
 put file ../Plugins/Tonalith/Translations/table_en-US.json ProgramData/Vantor/com.vantor.look/translations/unreal/table_en-US.json
 put file ../Plugins/Tonalith/Translations/table_fr.json ProgramData/Vantor/com.vantor.look/translations/unreal/table_fr-CA.json
 
@@ -21,14 +20,4 @@ layout OnePane
 create asset "Tonalith Look" /Game/Looks/Warm
 open menu View TNLDisplaySubMenu
 expect menu "[ ] Show Look"
-quit
-
-# Without any file the keys show.
-new project
-start en
-layout OnePane
-create asset "AssetTypeActions_TonalithObject.AssetTypeActions_Tonalith" /Game/Looks/Warm
-open menu View TNLDisplaySubMenu
-expect menu "TonalithEditorModule.ColorManagement_Label"
-expect menu "[ ] STonalithWidget.EnableDisplay_Label"
 quit

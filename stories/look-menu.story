@@ -1,11 +1,10 @@
 # A look is picked, shown, hidden and cleared.
-new project
 put file ../Plugins/Tonalith/Translations ProgramData/Vantor/com.vantor.look/translations/unreal
-asset /Script/Tonalith.TonalithObject /Game/Looks/Warm.Warm
-asset /Script/Tonalith.TonalithObject /Game/Looks/Cold.Cold
+put file content/Looks/Warm.asset Content/Looks/Warm.asset
+put file content/Looks/Cold.asset Content/Looks/Cold.asset
 start
 layout TwoPanesHoriz
-activate pane "TwoPanesHoriz.Viewport 1.Viewport0"
+open pane "TwoPanesHoriz.Viewport 1.Viewport0"
 open menu View TNLDisplaySubMenu TNLAssetSelection
 expect menu Cold
 click Warm
@@ -21,7 +20,7 @@ open menu View TNLDisplaySubMenu
 expect menu "[ ] Show Look"
 
 # What is clicked goes to the pane that is active when it is clicked.
-activate pane "TwoPanesHoriz.Viewport 1.Viewport1"
+open pane "TwoPanesHoriz.Viewport 1.Viewport1"
 click EnableDisplay
 open menu View TNLDisplaySubMenu
 expect menu "[x] Show Look"

@@ -1,9 +1,8 @@
 # A pane shows a look, is closed, and the editor is left. In the next session the pane shows the look again.
-new project
-asset /Script/Tonalith.TonalithObject /Game/Looks/Warm.Warm
+put file content/Looks/Warm.asset Content/Looks/Warm.asset
 start
 layout FourPanes2x2
-activate pane "FourPanes2x2.Viewport 1.Viewport2"
+open pane "FourPanes2x2.Viewport 1.Viewport2"
 open menu View TNLDisplaySubMenu TNLAssetSelection
 click Warm
 open menu TNLDisplaySubMenu

@@ -1,14 +1,15 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "StoryPlayer.h"
 
-#include "Host/Assets.h"
 #include "Misc/OutputDeviceRedirector.h"
 #include "Misc/Paths.h"
 
 #include <algorithm>
 #include <cstdio>
+#include <cwchar>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <sstream>
 
 namespace
@@ -61,21 +62,21 @@ const std::vector<FStoryPlayer::FVerb>& FStoryPlayer::Verbs()
 	using P = FStoryPlayer;
 	using A = const FArguments;
 	static const std::vector<FVerb> All{
-		{"new project", 0, [](P& Player, A&) { Player.NewProject(); }},
-		{"asset", 2, [](P& Player, A& Args) { HostAssets::Write(Player.Options.ProjectFolder, Args[0], Args[1]); }},
 		{"put file", 2, [](P& Player, A& Args) { Player.PutFile(Args[0], Args[1]); }},
 		{StartVerb, 0, [](P& Player, A& Args) { Player.Start(Args); }, true},
 		{"layout", 1, [](P& Player, A& Args) { Player.Driver.SetLayout(Args[0]); }},
-		{"open pane", 1, [](P& Player, A& Args) { Player.Driver.OpenPane(Args[0]); }},
+		{"open pane", 1, [](P& Player, A& Args) { Player.OpenPane(Args[0]); }},
 		{"close pane", 1, [](P& Player, A& Args) { Player.Driver.ClosePane(Args[0]); }},
-		{"activate pane", 1, [](P& Player, A& Args) { Player.Driver.ActivatePane(Args[0]); }},
 		{"open menu", 1, [](P& Player, A& Args) { Player.OpenMenu(Args); }, true},
 		{"click", 1, [](P& Player, A& Args) { Player.Driver.Menus().Click(Args[0]); }},
 		{"create asset", 2, [](P& Player, A& Args) { Player.Driver.CreateAsset(Args[0], Args[1]); }},
 		{"open assets", 1, [](P& Player, A& Args) { Player.Driver.OpenAssets(Args); }, true},
-		{"save picture", 1, [](P& Player, A& Args) { Player.SavePicture(Args[0]); }},
-		{"play in", 1, [](P& Player, A& Args) { Player.PlayIn(Args[0]); }},
-		{"end play", 0, [](P& Player, A&) { Player.Driver.EndPlay(); }},
+		{"edit", 3, [](P& Player, A& Args) { Player.Driver.Windows().EditProperty(Args[0], Args[1], Args[2]); }},
+		{"slide", 2,
+			[](P& Player, A& Args) { Player.Driver.Windows().MoveSlider(Args[0], std::wcstof(*Args[1], nullptr)); }},
+		{"save picture", 1,
+			[](P& Player, A& Args) { Player.SavePicture(Args[0], Args.Num() > 1 ? Args[1] : FString()); }, true},
+		{"play", 1, [](P& Player, A& Args) { Player.Play(Args[0]); }},
 		{QuitVerb, 0, [](P& Player, A&) { Player.Driver.Quit(); }},
 		{"expect log", 1, [](P& Player, A& Args) { Player.ExpectLog(Args[0]); }},
 		{"expect menu", 1, [](P& Player, A& Args) { Player.ExpectMenu(Args[0]); }},
@@ -133,6 +134,10 @@ void FStoryPlayer::Check(const FStory& Story)
 void FStoryPlayer::Play(const FStory& Story, size_t Session)
 {
 	StoryFolder = Wide(Story.Folder());
+	if (Session == 0)
+	{
+		ForgetProject();
+	}
 	FArguments Arguments;
 	for (const FStoryStep& Step : Story.Steps())
 	{
@@ -174,7 +179,7 @@ void FStoryPlayer::Serialize(const TCHAR* Text, ELogVerbosity::Type, const FName
 	std::printf("    %s\n", TCHAR_TO_UTF8(*Log.Last()));
 }
 
-void FStoryPlayer::NewProject()
+void FStoryPlayer::ForgetProject()
 {
 	for (const char* Folder : {"Content", "ProgramData", "Saved"})
 	{
@@ -213,6 +218,11 @@ void FStoryPlayer::Start(const FArguments& Arguments)
 	Driver.Start(Options);
 }
 
+void FStoryPlayer::OpenPane(const FString& Key)
+{
+	Driver.HasPane(Key) ? Driver.ActivatePane(Key) : Driver.OpenPane(Key);
+}
+
 void FStoryPlayer::OpenMenu(const FArguments& Arguments)
 {
 	for (const FString& Name : Arguments)
@@ -227,9 +237,10 @@ FString FStoryPlayer::PictureFile(const FString& Name) const
 	return FPaths::Combine(Options.ProjectFolder, TEXT("Saved/Pictures"), Name + TEXT(".png"));
 }
 
-void FStoryPlayer::SavePicture(const FString& Name)
+void FStoryPlayer::SavePicture(const FString& Name, const FString& Window)
 {
-	if (!::SavePicture(Driver.TakePicture(), PictureFile(Name)))
+	const FPicture Picture = Window.IsEmpty() ? Driver.TakePicture() : Driver.Windows().Picture(Window);
+	if (!::SavePicture(Picture, PictureFile(Name)))
 	{
 		throw FDriverError(PictureFile(Name) + TEXT(" cannot be written"));
 	}
@@ -254,14 +265,16 @@ void FStoryPlayer::ExpectPicture(const FString& Likeness, const FString& Name)
 	}
 }
 
-void FStoryPlayer::PlayIn(const FString& Place)
+void FStoryPlayer::Play(const FString& Where)
 {
-	const bool bInPane = Place.Equals(TEXT("pane"));
-	if (!bInPane && !Place.Equals(TEXT("window")))
+	const std::map<FString, void (FEditorDriver::*)()> Actions{{TEXT("pane"), &FEditorDriver::PlayInPane},
+		{TEXT("window"), &FEditorDriver::PlayInWindow}, {TEXT("stop"), &FEditorDriver::EndPlay}};
+	const auto Action = Actions.find(Where);
+	if (Action == Actions.end())
 	{
-		throw FDriverError(TEXT("play is in a pane or in a window"));
+		throw FDriverError(TEXT("play is in a pane or a window, or stops"));
 	}
-	bInPane ? Driver.PlayInPane() : Driver.PlayInWindow();
+	(Driver.*Action->second)();
 }
 
 void FStoryPlayer::ExpectLog(const FString& Text)

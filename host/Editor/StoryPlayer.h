@@ -36,12 +36,15 @@ private:
 	static const std::vector<FVerb>& Verbs();
 	static const FVerb& FindVerb(const FStory& Story, const FStoryStep& Step, FArguments& OutArguments);
 
-	void NewProject();
+	/** What earlier stories left in the project. */
+	void ForgetProject();
 	void PutFile(const FString& From, const FString& To);
 	void Start(const FArguments& Arguments);
+	void OpenPane(const FString& Key);
 	void OpenMenu(const FArguments& Arguments);
-	void SavePicture(const FString& Name);
-	void PlayIn(const FString& Place);
+	/** Of the active pane, unless a window is named. */
+	void SavePicture(const FString& Name, const FString& Window);
+	void Play(const FString& Where);
 	void ExpectLog(const FString& Text);
 	void ExpectMenu(const FString& Expected);
 	void ExpectFile(const FString& File, const FString& Expected);

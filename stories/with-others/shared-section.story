@@ -1,5 +1,4 @@
 # Another plug-in made the section for color management first: the look joins it, and the section keeps its label.
-new project
 put file ../../Plugins/Tonalith/Translations ProgramData/Vantor/com.vantor.look/translations/unreal
 start
 layout OnePane

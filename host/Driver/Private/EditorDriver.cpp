@@ -76,10 +76,15 @@ SLevelViewport& FEditorDriver::Pane(const FString& Key) const
 	return *FindPane(Key);
 }
 
-void FEditorDriver::OpenPane(const FString& Key)
+bool FEditorDriver::HasPane(const FString& Key) const
 {
 	RequireStarted();
-	if (LevelEditor().FindPane(FName(*Key)).IsValid())
+	return LevelEditor().FindPane(FName(*Key)).IsValid();
+}
+
+void FEditorDriver::OpenPane(const FString& Key)
+{
+	if (HasPane(Key))
 	{
 		throw FDriverError(FString::Printf(TEXT("a pane \"%s\" is open already"), *Key));
 	}

@@ -44,6 +44,8 @@ public:
 	/** Opens a pane under the key that names it within its layout; it becomes the active one. */
 	void OpenPane(const FString& Key);
 
+	bool HasPane(const FString& Key) const;
+
 	/** Changes to a layout: OnePane, TwoPanesHoriz or FourPanes2x2. */
 	void SetLayout(const FString& Layout);
 
