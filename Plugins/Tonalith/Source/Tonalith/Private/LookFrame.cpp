@@ -34,7 +34,7 @@ FLookFrame::FLookFrame(const FTonalithAPI_ImageDesc& Image) : Size(Image.Width, 
 	Graded = Plain;
 }
 
-void FLookFrame::Grade(const LookColor::FFrameGrader& Grader)
+void FLookFrame::Grade(const LookColor::IFrameGrader& Grader)
 {
 	const int64 RowBytes = BytesPerPixel * Size.X;
 	ParallelFor(Size.Y,

@@ -8,7 +8,7 @@ struct FTonalithAPI_ImageDesc;
 
 namespace LookColor
 {
-class FFrameGrader;
+class IFrameGrader;
 }
 
 /** Rows are shared among cores. */
@@ -24,7 +24,7 @@ public:
 	FIntPoint GetSize() const { return Size; }
 
 	/** Puts a look on the frame, in place of the one before. */
-	void Grade(const LookColor::FFrameGrader& Grader);
+	void Grade(const LookColor::IFrameGrader& Grader);
 
 	/**
 	 * The frame in the order of textures: blue, green, red, alpha.

@@ -78,7 +78,7 @@ EActiveTimerReturnType SLookPicture::Draw(double, float)
 	}
 	if (!bIsGraded)
 	{
-		Frame.Grade(LookColor::FFrameGrader(GradingOf(*Shown)));
+		Frame.Grade(LookColor::FControlsGrader(GradingOf(*Shown)));
 		bIsGraded = true;
 	}
 	// Textures are found by name: a picture under the name of the one before would not be seen.

@@ -1,6 +1,8 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Color/Grading.h"
 
+#include "Color/TransferFunction.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -19,6 +21,11 @@ double GradedLight(const FChannelGrading& Grading, double Light)
 	const double Lit = std::pow(Contrasted, 1.0 / Grading.Gamma);
 	// The power may be infinite, and no gain is still none.
 	return (Grading.Gain > 0.0 ? Lit * Grading.Gain : 0.0) + Grading.Offset;
+}
+
+float GradedValue(const FChannelGrading& Grading, double Light)
+{
+	return static_cast<float>(Encoded(GradedLight(Grading, Light)));
 }
 
 double LeastLightFor(const FChannelGrading& Grading, double Graded)

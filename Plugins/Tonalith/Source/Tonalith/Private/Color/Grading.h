@@ -40,6 +40,9 @@ inline constexpr double MostSaturation = 64.0;
  */
 double GradedLight(const FChannelGrading& Grading, double Light);
 
+/** The same as a value for displays, 0 to 1. */
+float GradedValue(const FChannelGrading& Grading, double Light);
+
 /** The least light that becomes as bright as the given one, 0 at the least; infinity when no light does. */
 double LeastLightFor(const FChannelGrading& Grading, double Graded);
 } // namespace LookColor
