@@ -67,9 +67,9 @@ private:
 	std::map<std::string, std::vector<double>> nanoseconds;
 };
 
-void enqueue(const std::string& name, Loop loop)
+benchmark::internal::Benchmark* enqueue(const std::string& name, Loop loop)
 {
-	benchmark::RegisterBenchmark(name.c_str(), loop)->UseRealTime()->Unit(benchmark::kNanosecond);
+	return benchmark::RegisterBenchmark(name.c_str(), loop)->Unit(benchmark::kNanosecond);
 }
 } // namespace
 
@@ -90,10 +90,14 @@ Measurement measure()
 		[](const Subject& left, const Subject& right) { return left.name < right.name; });
 	for (const Subject& subject : subjects())
 	{
-		enqueue(oursOf(subject), subject.ours);
-		if (subject.baseline)
+		enqueue(oursOf(subject), subject.ours)->UseRealTime();
+		if (subject.isPeer)
 		{
-			enqueue(baselineOf(subject), subject.baseline);
+			enqueue(baselineOf(subject), subject.baseline)->UseManualTime()->Iterations(1)->Repetitions(3);
+		}
+		else if (subject.baseline)
+		{
+			enqueue(baselineOf(subject), subject.baseline)->UseRealTime();
 		}
 	}
 	Collector collector;

@@ -23,6 +23,8 @@ struct Subject
 	Loop baseline = nullptr;
 	/** The highest ratio of ours to the baseline that is meant to be. */
 	std::optional<double> target{};
+	/** The baseline is another program: it tells its time itself, and runs seldom, as it takes seconds. */
+	bool isPeer = false;
 };
 
 /** Adds a subject; for the initialiser of a constant in the subject's file. @return true */

@@ -27,12 +27,16 @@ std::uint64_t Packed(const FTriple& Color)
 	return Fields;
 }
 
+/** Of FPlace::WeightAndStride. */
+constexpr int WeightShift = 16;
+constexpr std::uint32_t StrideMask = (1u << WeightShift) - 1;
+
 /** Without a jump, which would be mispredicted every other time. */
 void PutGreaterFirst(std::uint32_t& A, std::uint32_t& B)
 {
-	const std::uint32_t Exchange = (A ^ B) & (0u - static_cast<std::uint32_t>(A < B));
-	A ^= Exchange;
-	B ^= Exchange;
+	const std::uint32_t Greater = A > B ? A : B;
+	B = A > B ? B : A;
+	A = Greater;
 }
 
 std::uint8_t Stored(float Value)
@@ -62,22 +66,20 @@ FPackedCube::FPackedCube(const FLookTable& Table)
 FPackedCube::FPlace FPackedCube::PlaceOf(std::size_t Channel, float Value) const
 {
 	const auto [Sample, Share] = PlaceInTable(Value, Domain.Begin[Channel], Domain.End[Channel], Size);
-	return FPlace(static_cast<std::uint32_t>(Sample) * Strides[Channel],
-		static_cast<std::uint32_t>(std::lround(Share * static_cast<float>(WholeWeight))));
+	const auto Weight = static_cast<std::uint32_t>(std::lround(Share * static_cast<float>(WholeWeight)));
+	return {static_cast<std::uint32_t>(Sample) * Strides[Channel], Weight << WeightShift | Strides[Channel]};
 }
 
 std::uint32_t FPackedCube::ColorAt(const std::array<FPlace, 3>& Places) const
 {
 	// The way from the near corner to the far one leads along the axis of the greatest weight first.
-	constexpr int WeightShift = 16;
-	constexpr std::uint32_t StrideMask = (1u << WeightShift) - 1;
-	std::uint32_t First = Places[0].Weight() << WeightShift | Strides[0];
-	std::uint32_t Second = Places[1].Weight() << WeightShift | Strides[1];
-	std::uint32_t Third = Places[2].Weight() << WeightShift | Strides[2];
+	std::uint32_t First = Places[0].WeightAndStride;
+	std::uint32_t Second = Places[1].WeightAndStride;
+	std::uint32_t Third = Places[2].WeightAndStride;
 	PutGreaterFirst(First, Second);
 	PutGreaterFirst(First, Third);
 	PutGreaterFirst(Second, Third);
-	const std::uint64_t* Sample = Samples.data() + Places[0].Offset() + Places[1].Offset() + Places[2].Offset();
+	const std::uint64_t* Sample = Samples.data() + Places[0].Offset + Places[1].Offset + Places[2].Offset;
 	constexpr std::uint64_t Half = 1u << (SumShift - 1);
 	std::uint64_t Sum = Half | Half << FieldBits | Half << (2 * FieldBits);
 	Sum += *Sample * (WholeWeight - (First >> WeightShift));

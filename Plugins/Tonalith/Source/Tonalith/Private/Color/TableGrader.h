@@ -22,19 +22,13 @@ public:
 	static constexpr std::uint32_t WholeWeight = 1020;
 
 	/** Where a color lies along one axis of the cube: at a first sample, and with a weight of the second. */
-	class FPlace
+	struct FPlace
 	{
-	public:
-		FPlace() = default;
-		FPlace(std::uint32_t Offset, std::uint32_t Weight) : OffsetAndWeight(Offset << WeightBits | Weight) {}
+		/** Samples from the cube's begin to the first. */
+		std::uint32_t Offset;
 
-		/** In samples of the whole cube, from the axis' begin. */
-		std::uint32_t Offset() const { return OffsetAndWeight >> WeightBits; }
-		std::uint32_t Weight() const { return OffsetAndWeight & ((1u << WeightBits) - 1); }
-
-	private:
-		static constexpr int WeightBits = 10;
-		std::uint32_t OffsetAndWeight = 0;
+		/** The weight above, below it the samples from the first to the second: in one word, they are sorted together. */
+		std::uint32_t WeightAndStride;
 	};
 
 	/** @param Value between the curves and the cube */
