@@ -18,8 +18,9 @@ endforeach()
 set(TONALITH_STAGE ${CMAKE_BINARY_DIR}/stage)
 
 find_program(PYTHON python3 REQUIRED)
-set(HEADER_TOOL ${CMAKE_SOURCE_DIR}/host/HeaderTool/header_tool.py)
-set(HEADER_TOOL_FILES ${HEADER_TOOL} ${CMAKE_SOURCE_DIR}/host/HeaderTool/header_reader.py)
+set(HEADER_TOOL_FILES ${CMAKE_CURRENT_LIST_DIR}/../host/HeaderTool/header_tool.py
+	${CMAKE_CURRENT_LIST_DIR}/../host/HeaderTool/header_reader.py)
+list(GET HEADER_TOOL_FILES 0 HEADER_TOOL)
 
 # reflect(<module> SOURCE <folder> [KNOWN <modules>...])
 # Runs the header tool over the reflected headers below the folder; KNOWN are the modules whose types they may name.

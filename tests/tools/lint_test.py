@@ -24,7 +24,7 @@ CLEAN = {
 	"CMakeLists.txt": f"# {MARK}\nset_target_properties(boost_filesystem PROPERTIES UNITY_BUILD ON)\n",
 	"Plugins/Look/Look.uplugin": json.dumps(PLUGIN, indent="\t"),
 	"Plugins/Look/Source/Two.cpp": SOURCE,
-	"Plugins/Look/Source/Look.Build.cs": f"// {MARK}\n",
+	"Plugins/Look/Source/LookEditor/LookEditor.Build.cs": f"// {MARK}\n// Needs \"Look\".\n",
 	"host/Two.h": f"// {MARK}\n#ifdef HOST_DEBUG\n#endif\n",
 	"tools/do": f"#!/bin/sh\n# {MARK}\n",
 	"docs/page.md": "no source\n",
@@ -85,6 +85,9 @@ class LintTest(unittest.TestCase):
 			(descriptor, plugin(CreatedBy=None), f"{descriptor}:{line['FriendlyName']}: Look: the field CreatedBy is missing"),
 			(descriptor, module(LoadingPhase=None), f"{descriptor}:{line['Name']}: LookEditor: the field LoadingPhase"),
 			(descriptor, plugin(Whitelist=[]), ": Look: unknown field Whitelist"),
+			(descriptor, module(LoadingPhase="PostEngineInit"), ": LookEditor: the phase must be Default"),
+			(descriptor, module(Type="Program"), ": LookEditor: the type must be Runtime or Editor"),
+			(descriptor, plugin(Modules=[MODULE, {**MODULE, "Name": "Look"}]), ": LookEditor must stand behind Look"),
 			(descriptor, module(WhitelistPlatforms=["Win64"]), ": LookEditor: unknown field WhitelistPlatforms"),
 		]
 		for name, text, expected in cases:
