@@ -1,22 +1,26 @@
 # Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 """Reads a reflected header: its types and their properties."""
 import re
+from collections import namedtuple
 from dataclasses import dataclass, field
 from pathlib import Path
 
 TOKEN = re.compile(r"""
-      (?P<comment>//[^\n]*|/\*.*?\*/)
-    | (?P<directive>^[ \t]*\#(?:\\\n|[^\n])*)
-    | (?P<text>"(?:\\.|[^"\\\n])*"|'(?:\\.|[^'\\\n])*')
-    | (?P<word>[A-Za-z_]\w*)
-    | (?P<number>\d[\w.]*)
-    | (?P<mark>::|->|\S)
+      //[^\n]* | /\*.*?\*/
+    | ^[ \t]*\#(?:\\\n|[^\n])*
+    | "(?:\\.|[^"\\\n])*" | '(?:\\.|[^'\\\n])*'
+    | \w+ | :: | -> | \S
 """, re.VERBOSE | re.MULTILINE | re.DOTALL)
-
-CLASS_SPECIFIERS = {"config", "minimalapi"}
 PROPERTY_SPECIFIERS = {"config", "editanywhere", "category", "meta"}
-UNSUPPORTED = {"GENERATED_UCLASS_BODY", "GENERATED_USTRUCT_BODY", "UFUNCTION", "UENUM", "UINTERFACE", "UDELEGATE", "RIGVM_METHOD"}
+UNSUPPORTED = re.compile(r"U(CLASS|STRUCT|PROPERTY|FUNCTION|ENUM|INTERFACE|DELEGATE)|GENERATED_\w*BODY|RIGVM_METHOD")
 PLAIN_TYPES = {"bool", "float", "FName", "FVector4"}
+
+Token = namedtuple("Token", "text line")
+# The word before a type's name, the name's first letter, the C++ class of the type's own object.
+Kind = namedtuple("Kind", "word prefix type specifiers")
+CLASS = Kind("class", "U", "UClass", {"config", "minimalapi"})
+KINDS = {"UCLASS": CLASS, "USTRUCT": Kind("struct", "F", "UScriptStruct", set())}
+Property = namedtuple("Property", "name type specifiers place")
 
 
 class HeaderError(Exception):
@@ -24,29 +28,14 @@ class HeaderError(Exception):
 
 
 @dataclass
-class Token:
-    kind: str
-    text: str
-    line: int
-
-
-@dataclass
-class Property:
-    name: str
-    type: str
-    specifiers: dict
-    line: int
-
-
-@dataclass
 class Type:
-    kind: str
+    kind: Kind
     name: str
-    base: str
     specifiers: dict
-    macro_line: int
+    place: Token
+    base: str = ""
     body_line: int = 0
-    body_access: str = "private"
+    body_access: str = ""
     has_constructor: bool = False
     properties: list = field(default_factory=list)
 
@@ -55,155 +44,122 @@ class Reader:
     """Walks the tokens of one header."""
 
     def __init__(self, path, text):
-        self.path = path
-        self.at = 0
-        self.tokens = [Token(m.lastgroup, m.group(), text.count("\n", 0, m.start()) + 1)
-                       for m in TOKEN.finditer(text) if m.lastgroup != "comment"]
-        self.tokens.append(Token("end", "", text.count("\n") + 1))
+        self.path, self.at = path, 0
+        tokens = [Token(found.group().strip(), text.count("\n", 0, found.start()) + 1) for found in TOKEN.finditer(text)]
+        self.includes = [token for token in tokens if re.match(r"#\s*include", token.text)]
+        self.tokens = [token for token in tokens if not token.text.startswith(("//", "/*", "#"))]
+        self.tokens.append(Token("", text.count("\n") + 1))
 
-    def error(self, line, reason):
-        return HeaderError(f"{self.path}:{line}: {reason}")
+    def error(self, token, reason):
+        return HeaderError(f"{self.path}:{token.line}: {reason}")
 
     def peek(self):
-        while self.tokens[self.at].kind == "directive":
-            self.at += 1
-        return self.tokens[self.at]
+        return self.tokens[self.at].text
 
-    def next(self):
-        token = self.peek()
-        if token.kind == "end":
-            raise self.error(token.line, "the file ends too early")
+    def next(self, expected=""):
+        token = self.tokens[self.at]
+        if not token.text:
+            raise self.error(token, "the file ends too early")
+        if expected and token.text != expected:
+            raise self.error(token, f'"{expected}" expected, "{token.text}" found')
         self.at += 1
         return token
 
-    def expect(self, text):
-        token = self.next()
-        if token.text != text:
-            raise self.error(token.line, f'"{text}" expected, "{token.text}" found')
-        return token
+    def until(self, *marks):
+        """Reads what stands before the next of the marks, whatever is in brackets in between."""
+        read, depth = [], 0
+        while depth > 0 or self.peek() not in marks:
+            read.append(self.next())
+            depth += (read[-1].text in ("(", "{")) - (read[-1].text in (")", "}"))
+        return read
 
     def specifiers(self, known):
         """Reads "(Name, Name=Value, meta=(Name=Value))" into a dictionary with lower-case names."""
         result = {}
-        self.expect("(")
-        while self.peek().text != ")":
-            name = self.next()
-            key = name.text.lower()
-            if known is not None and key not in known:
-                raise self.error(name.line, f'unknown specifier "{name.text}"')
-            value = ""
-            if self.peek().text == "=":
+        self.next("(")
+        while self.peek() != ")":
+            name, *value = self.until(",", ")")
+            if name.text.lower() not in known:
+                raise self.error(name, f'unknown specifier "{name.text}"')
+            result[name.text.lower()] = "".join(token.text for token in value[1:]).strip('"')
+            if self.peek() == ",":
                 self.next()
-                value = self.specifiers(None) if self.peek().text == "(" else self.value()
-            result[key] = value
-            if self.peek().text == ",":
-                self.next()
-        self.expect(")")
+        self.next(")")
         return result
-
-    def value(self):
-        parts = []
-        while self.peek().text not in (",", ")"):
-            parts.append(self.next().text)
-        return "".join(parts).strip('"')
-
-    def skip_braces(self):
-        """Reads on behind the brace that closes the one before."""
-        depth = 1
-        while depth:
-            token = self.next()
-            depth += (token.text == "{") - (token.text == "}")
 
     def header(self):
         """Reads the whole file: its reflected types."""
-        types = []
-        includes = [t for t in self.tokens if t.kind == "directive" and re.match(r"\s*#\s*include", t.text)]
         generated = f'"{Path(self.path).stem}.generated.h"'
-        if not includes or generated not in includes[-1].text:
-            raise self.error(includes[-1].line if includes else 1, f"the last include must be {generated}")
-        while self.peek().kind != "end":
+        last = self.includes[-1] if self.includes else Token("", 1)
+        if generated not in last.text:
+            raise self.error(last, f"the last include must be {generated}")
+        types = []
+        while self.peek():
             token = self.next()
-            if token.text in UNSUPPORTED:
-                raise self.error(token.line, f"{token.text} is not supported")
-            if token.text in ("UPROPERTY", "GENERATED_BODY"):
-                raise self.error(token.line, f"{token.text} outside of a reflected type")
-            if token.text in ("UCLASS", "USTRUCT"):
+            if token.text in KINDS:
                 types.append(self.type(token))
+            elif UNSUPPORTED.fullmatch(token.text):
+                raise self.error(token, f"{token.text} is not supported here")
         return types
 
     def type(self, macro):
-        is_class = macro.text == "UCLASS"
-        specifiers = self.specifiers(CLASS_SPECIFIERS if is_class else set())
-        self.expect("class" if is_class else "struct")
-        name = self.next()
-        if self.peek().kind == "word" and self.peek().text != "final":
-            name = self.next()
-        if self.peek().text == "final":
-            self.next()
-        prefix = "U" if is_class else "F"
-        if not re.match(prefix + "[A-Z]", name.text):
-            raise self.error(name.line, f'the name does not begin with "{prefix}": "{name.text}"')
-        result = Type("class" if is_class else "struct", name.text, "", specifiers, macro.line)
-        if self.peek().text == ":":
-            self.next()
-            self.expect("public")
-            result.base = self.next().text
-            while self.peek().text != "{":
-                self.next()
-        if is_class and not result.base:
-            raise self.error(name.line, f'"{name.text}" has no base class')
-        self.expect("{")
-        self.body(result)
-        if not result.body_line:
-            raise self.error(macro.line, f'"{name.text}" has no GENERATED_BODY()')
-        if any("config" in p.specifiers for p in result.properties) and is_class and "config" not in specifiers:
-            raise self.error(macro.line, f'"{name.text}" has config properties but names no config file')
-        return result
+        kind = KINDS[macro.text]
+        specifiers = self.specifiers(kind.specifiers)
+        self.next(kind.word)
+        name = [token for token in self.until(":", "{") if token.text != "final"][-1]
+        if not re.match(kind.prefix + "[A-Z]", name.text):
+            raise self.error(name, f'the name does not begin with "{kind.prefix}": "{name.text}"')
+        owner = Type(kind, name.text, specifiers, macro)
+        if kind is CLASS or self.peek() == ":":
+            self.next(":")
+            self.next("public")
+            owner.base = self.next().text
+            self.until("{")
+        self.next("{")
+        self.body(owner)
+        if not owner.body_line:
+            raise self.error(macro, f'"{owner.name}" has no GENERATED_BODY()')
+        if kind is CLASS and "config" not in specifiers and any("config" in p.specifiers for p in owner.properties):
+            raise self.error(macro, f'"{owner.name}" has config properties but names no config file')
+        return owner
 
     def body(self, owner):
-        access = "private" if owner.kind == "class" else "public"
-        while self.peek().text != "}":
+        access = "private" if owner.kind is CLASS else "public"
+        while self.peek() != "}":
             token = self.next()
-            if token.text in ("public", "protected", "private") and self.peek().text == ":":
-                self.next()
+            if token.text in ("public", "protected", "private") and self.peek() == ":":
                 access = token.text
             elif token.text == "GENERATED_BODY":
                 owner.body_line, owner.body_access = token.line, access
-                self.expect("(")
-                self.expect(")")
             elif token.text == "UPROPERTY":
                 owner.properties.append(self.property())
-            elif token.text in UNSUPPORTED:
-                raise self.error(token.line, f"{token.text} is not supported")
+            elif UNSUPPORTED.fullmatch(token.text):
+                raise self.error(token, f"{token.text} is not supported here")
             elif token.text == "{":
-                self.skip_braces()
+                self.until("}")
+                self.next()
             elif token.text == "~":
-                self.expect(owner.name)
-            elif token.text == owner.name and self.peek().text == "(":
+                self.next(owner.name)
+            elif token.text == owner.name and self.peek() == "(":
                 owner.has_constructor = True
-        self.expect("}")
+        self.next("}")
 
     def property(self):
         specifiers = self.specifiers(PROPERTY_SPECIFIERS)
-        words = []
-        while self.peek().text not in (";", "=", "{"):
-            words.append(self.next())
-        name = words.pop()
-        if name.kind != "word" or not words:
-            raise self.error(name.line, "a property is a type and a name")
-        while self.next().text != ";":
-            pass
-        spelled = "".join(w.text for w in words if w.text not in ("class", "struct"))
-        return Property(name.text, spelled, specifiers, name.line)
+        words = self.until(";", "=", "{")
+        name = self.tokens[self.at - 1]
+        if len(words) < 2 or not name.text.isidentifier():
+            raise self.error(name, "a property is a type and a name")
+        self.until(";")
+        spelled = "".join(token.text for token in words[:-1] if token.text not in ("class", "struct"))
+        return Property(name.text, spelled, specifiers, name)
 
     def referred(self, item):
-        """The kind and the name of the reflected type that a property's type refers to; neither for a plain type."""
+        """The reflected type that a property's type refers to; empty for a plain type."""
         element = re.sub(r"^TArray<(.+)>$", r"\1", item.type)
-        pointer = re.fullmatch(r"TObjectPtr<(U\w+)>", element)
-        if pointer:
-            return "class", pointer.group(1)
         if element in PLAIN_TYPES:
-            return "", ""
-        if re.fullmatch(r"F[A-Z]\w*", element):
-            return "struct", element
-        raise self.error(item.line, f'unknown property type "{item.type}"')
+            return ""
+        found = re.fullmatch(r"TObjectPtr<(U\w+)>|(F[A-Z]\w*)", element)
+        if not found:
+            raise self.error(item.place, f'unknown property type "{item.type}"')
+        return found[1] or found[2]

@@ -13,91 +13,67 @@ import re
 import sys
 from pathlib import Path
 
-from header_reader import HeaderError, Reader
+from header_reader import CLASS, HeaderError, Reader
 
 PROPERTY_FLAGS = {"config": "CPF_Config", "editanywhere": "CPF_Edit"}
 
 
-def literal(text):
-    """C++ source of a wide string."""
-    return f"TEXT({json.dumps(text, ensure_ascii=False)})"
+def check(reader, owner, known):
+    """All types that the owner names must be known to some module."""
+    wanted = [(owner.base, owner.place)] if owner.base else []
+    for item in owner.properties:
+        name = reader.referred(item)
+        wanted += [(name, item.place)] if name else []
+        if name.startswith("U") and "config" in item.specifiers:
+            raise reader.error(item.place, "Not allowed to use 'config' with object variables")
+        if owner.kind is not CLASS and item.type.startswith("TArray<"):
+            raise reader.error(item.place, "an array in a struct is not supported")
+    for name, place in wanted:
+        if name not in known:
+            raise reader.error(place, f'"{name}" is no reflected type of this module or one that it depends on')
 
 
-class Module:
-    """All reflected types of a module, and what is written for them."""
+def generated_header(file_id, api, types):
+    """What GENERATED_BODY() stands for in each type, and the entry points that other modules may import."""
+    lines = ["// Written by the header tool; changes are lost.", "#pragma once", '#include "UObject/ObjectMacros.h"']
+    for owner in types:
+        kind = owner.kind.word.upper()
+        body = f"HOST_STRUCT_BODY({owner.name}, {api})"
+        if owner.kind is CLASS:
+            constructor = "" if owner.has_constructor else f" HOST_CONSTRUCTOR({owner.name})"
+            exported = api if "minimalapi" in owner.specifiers else ""
+            body = f"HOST_CLASS_BODY({owner.name}, {owner.base}, {exported}){constructor} {owner.body_access}:"
+        lines += [f"HOST_DECLARE_{kind}({owner.name}, {api})",
+                  f"#define {file_id}_{owner.body_line}_GENERATED_BODY {body}"]
+    return "\n".join(lines + ["#undef CURRENT_FILE_ID", f"#define CURRENT_FILE_ID {file_id}", ""])
 
-    def __init__(self, name, source, known):
-        self.name, self.source, self.known = name, Path(source), known
-        self.api = f"{name.upper()}_API"
 
-    def relative(self, path):
-        return Path(path).resolve().relative_to(self.source.resolve()).as_posix()
+def type_source(module, owner):
+    """The functions that make a type with its properties when the object system is ready for it."""
+    name, kind = owner.name, owner.kind.type
+    identity = f'TEXT("/Script/{module}"), TEXT("{name[1:]}"), sizeof({name})'
+    if owner.kind is CLASS:
+        config = owner.specifiers.get("config", "")
+        make = f'NewClass({identity}, TEXT("{config}"), &HostReflection::Construct<{name}>, {owner.base}::StaticClass())'
+    else:
+        make = f"NewStruct({identity}, {owner.base + '::StaticStruct()' if owner.base else 'nullptr'})"
+    lines = [f"struct Z_Construct_{kind}_{name}_Statics", "{", f"\tstatic {kind}* Make()", "\t{",
+             f"\t\t{kind}* Type = HostReflection::{make};"]
+    for item in owner.properties:
+        flags = [flag for word, flag in PROPERTY_FLAGS.items() if word in item.specifiers] or ["CPF_None"]
+        declaration = f'{{TEXT("{item.name}"), offsetof({name}, {item.name}), {" | ".join(flags)}}}'
+        lines.append(f"\t\tHostReflection::AddProperty<decltype({name}::{item.name})>(Type, {declaration});")
+    return lines + ["\t\treturn Type;", "\t}", "};", f"HOST_DEFINE_{owner.kind.word.upper()}({name})", ""]
 
-    def file_id(self, path):
-        return "FID_" + self.name + "_" + re.sub(r"\W", "_", self.relative(path))
 
-    def check(self, reader, owner):
-        """All types that the owner names must be known to some module."""
-        wanted = [(owner.base, owner.kind, owner.macro_line)] if owner.base else []
-        for item in owner.properties:
-            kind, name = reader.referred(item)
-            if kind == "class" and "config" in item.specifiers:
-                raise reader.error(item.line, "Not allowed to use 'config' with object variables")
-            if owner.kind == "struct" and item.type.startswith("TArray<"):
-                raise reader.error(item.line, "an array in a struct is not supported")
-            if name:
-                wanted.append((name, kind, item.line))
-        for name, kind, line in wanted:
-            if self.known.get(name) != kind:
-                raise reader.error(line, f'"{name}" is no reflected {kind} of this module or one that it depends on')
-
-    def body(self, owner):
-        """The text that stands for GENERATED_BODY()."""
-        if owner.kind == "struct":
-            return f"HOST_STRUCT_BODY({owner.name}, {self.api})"
-        exported = f"{self.api} " if "minimalapi" in owner.specifiers else ""
-        constructor = "" if owner.has_constructor else f" HOST_CONSTRUCTOR({owner.name})"
-        return f"HOST_CLASS_BODY({owner.name}, {owner.base}, {exported}){constructor} {owner.body_access}:"
-
-    def generated_header(self, path, types):
-        file_id = self.file_id(path)
-        lines = ["// Written by the header tool; changes are lost.", "#pragma once", '#include "UObject/ObjectMacros.h"']
-        for owner in types:
-            kind = "CLASS" if owner.kind == "class" else "STRUCT"
-            lines += [f"HOST_DECLARE_{kind}({owner.name}, {self.api})",
-                      f"#define {file_id}_{owner.body_line}_GENERATED_BODY {self.body(owner)}"]
-        return "\n".join(lines + ["#undef CURRENT_FILE_ID", f"#define CURRENT_FILE_ID {file_id}", ""])
-
-    @staticmethod
-    def property_source(item, owner_name):
-        flags = [flag for name, flag in PROPERTY_FLAGS.items() if name in item.specifiers] or ["CPF_None"]
-        declaration = f"{{{literal(item.name)}, offsetof({owner_name}, {item.name}), {' | '.join(flags)}}}"
-        return f"\t\tHostReflection::AddProperty<decltype({owner_name}::{item.name})>(Type, {declaration});"
-
-    def type_source(self, owner):
-        name, is_class = owner.name, owner.kind == "class"
-        kind = "UClass" if is_class else "UScriptStruct"
-        identity = f'TEXT("/Script/{self.name}"), {literal(name[1:])}'
-        if is_class:
-            config = literal(owner.specifiers.get("config", ""))
-            make = f"NewClass({identity}, sizeof({name}), {config}, &HostReflection::Construct<{name}>, {owner.base}::StaticClass())"
-        else:
-            make = f"NewStruct({identity}, sizeof({name}), {owner.base + '::StaticStruct()' if owner.base else 'nullptr'})"
-        lines = [f"struct Z_Construct_{kind}_{name}_Statics", "{", f"\tstatic {kind}* Make()", "\t{",
-                 f"\t\t{kind}* Type = HostReflection::{make};"]
-        lines += [self.property_source(item, name) for item in owner.properties]
-        return lines + ["\t\treturn Type;", "\t}", "};", f"HOST_DEFINE_{'CLASS' if is_class else 'STRUCT'}({name})"]
-
-    def source_file(self, path, types):
-        include = re.sub(r"^(Public|Private|Classes)/", "", self.relative(path))
-        lines = ["// Written by the header tool; changes are lost.", '#include "UObject/GeneratedCppIncludes.h"',
-                 f'#include "{include}"', "#include <cstddef>", ""]
-        for owner in types:
-            lines += self.type_source(owner) + [""]
-        makers = ", ".join(f"[]() -> UStruct* {{ return Z_Construct_{k}_{o.name}(); }}" for o in types
-                           for k in ["UClass" if o.kind == "class" else "UScriptStruct"])
-        file_id = self.file_id(path)
-        return "\n".join(lines + [f"static const FRegisterCompiledInInfo Register_{file_id}({{{makers}}});", ""])
+def source_file(module, file_id, header, types):
+    include = re.sub(r"^(Public|Private|Classes)/", "", header)
+    lines = ["// Written by the header tool; changes are lost.", '#include "UObject/GeneratedCppIncludes.h"',
+             f'#include "{include}"', "#include <cstddef>", ""]
+    for owner in types:
+        lines += type_source(module, owner)
+    makers = ", ".join(f"[]() -> UStruct* {{ return Z_Construct_{o.kind.type}_{o.name}(); }}" for o in types)
+    return "\n".join(lines + [f"static const FRegisterCompiledInInfo Register_{file_id}({{{makers}}});", ""])
 
 
 def write(path, text):
@@ -107,30 +83,28 @@ def write(path, text):
 
 
 def run(arguments):
-    known = {"UFactory": "class", "UObject": "class"}
+    module, out, known, readers = arguments.module, Path(arguments.out), {"UFactory", "UObject"}, []
     for file in arguments.known:
         known.update(json.loads(Path(file).read_text(encoding="utf-8")))
-    out, own, readers = Path(arguments.out), {}, []
     out.mkdir(parents=True, exist_ok=True)
     for path in arguments.headers:
         reader = Reader(path, Path(path).read_text(encoding="utf-8"))
         readers.append((reader, reader.header()))
-        own.update({owner.name: owner.kind for owner in readers[-1][1]})
-    module = Module(arguments.module, arguments.source, known | own)
+        known.update(owner.name for owner in readers[-1][1])
     for reader, types in readers:
         for owner in types:
-            module.check(reader, owner)
-        stem = Path(reader.path).stem
-        write(out / f"{stem}.generated.h", module.generated_header(reader.path, types))
-        write(out / f"{stem}.gen.cpp", module.source_file(reader.path, types))
-    write(out / f"{arguments.module}.types", json.dumps(known | own, indent="\t") + "\n")
+            check(reader, owner, known)
+        header = Path(reader.path).resolve().relative_to(Path(arguments.source).resolve())
+        file_id = f"FID_{module}_" + re.sub(r"\W", "_", header.as_posix())
+        write(out / f"{header.stem}.generated.h", generated_header(file_id, f"{module.upper()}_API", types))
+        write(out / f"{header.stem}.gen.cpp", source_file(module, file_id, header.as_posix(), types))
+    write(out / f"{module}.types", json.dumps(sorted(known), indent="\t") + "\n")
 
 
 def main():
     parser = argparse.ArgumentParser()
-    parser.add_argument("--module", required=True)
-    parser.add_argument("--source", required=True)
-    parser.add_argument("--out", required=True)
+    for name in ("--module", "--source", "--out"):
+        parser.add_argument(name, required=True)
     parser.add_argument("--known", action="append", default=[])
     parser.add_argument("headers", nargs="*")
     try:

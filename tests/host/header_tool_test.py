@@ -65,7 +65,7 @@ class Refusals(unittest.TestCase):
         (CLASS % "\tUPROPERTY()\n\tstd::vector<int> Values;", 8, 'unknown property type "std::vector<int>"'),
         (CLASS % "\tUPROPERTY(Replicated)\n\tbool bValue;", 7, 'unknown specifier "Replicated"'),
         (CLASS % "\tUFUNCTION()\n\tvoid Call();", 7, "UFUNCTION is not supported"),
-        (CLASS % "\tUPROPERTY()\n\tFUnknown Value;", 8, '"FUnknown" is no reflected struct'),
+        (CLASS % "\tUPROPERTY()\n\tFUnknown Value;", 8, '"FUnknown" is no reflected type'),
         (CLASS % "\tUPROPERTY(config)\n\tfloat Value;", 3, '"UBad" has config properties but names no config file'),
         ((CLASS % "\tUPROPERTY(config)\n\tTObjectPtr<UObject> Value;").replace("UCLASS()", "UCLASS(config=Editor)"), 8,
          "Not allowed to use 'config' with object variables"),
