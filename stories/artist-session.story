@@ -41,9 +41,9 @@ save picture cold
 
 # A play session starts with the look of the pane that was active.
 open pane "FourPanes2x2.Viewport 1.Viewport0"
-play pane
+play
 expect picture like warm
-play stop
+stop
 
 # That pane still has its own look. The look that a pane shows is not offered to it again.
 open menu View TNLDisplaySubMenu TNLAssetSelection

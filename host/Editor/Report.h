@@ -1,30 +1,54 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// A page that shows how a story went: its words, its steps, the menus as they were open, the pictures of panes.
+// A page that shows how a story went: its words, beside them the editor's window and its pictures as they were then, and
+// the steps in between folded away.
 #pragma once
 
-#include "CoreMinimal.h"
-
+#include "EditorDriver.h"
+#include <filesystem>
+#include <optional>
+#include <set>
 #include <string>
 
-/** Texts are UTF-8. Each call adds to the page at once: the sessions of a story write from processes of their own. */
+/**
+ * The page is one file and needs no other. Each part is added when the next begins: the sessions of a story write from
+ * processes of their own. Texts are UTF-8.
+ */
 class FReport
 {
 public:
-	/** @param InFolder where "index.html" and its pictures lie; empty for no report at all: every call does nothing */
-	explicit FReport(const FString& InFolder) : Folder(InFolder) {}
+	/** @param InFolder where "index.html" lies; empty for no report at all: every call does nothing */
+	explicit FReport(const std::filesystem::path& InFolder) : Folder(InFolder) {}
 
-	/** Begins the page anew. */
-	void Begin(const std::string& Title) const;
+	/** Adds the last part. */
+	~FReport() { AddPart(); }
+	FReport(const FReport&) = delete;
+	FReport& operator=(const FReport&) = delete;
 
-	void AddNarration(const std::string& Text) const;
-	void AddStep(const std::string& Text) const;
-	void AddMenu(const std::string& Text) const;
+	/** Begins the page anew. @param Template its front: the head with the styles */
+	void Begin(const std::filesystem::path& Template, const std::string& Title) const;
 
-	/** Copies the picture beside the page. */
-	void AddPicture(const FString& File, const std::string& Caption) const;
+	/** Words begin a part of the page. */
+	void AddStep(const std::string& Source, const std::string& Words);
+
+	/** Whether the part shows something already. */
+	bool HasFigure() const { return Folder.empty() || !Figures.empty(); }
+
+	/** The panes in their places with what each shows, the open menus, the windows. */
+	void AddWindow(FEditorDriver& Driver);
+
+	/** @param bIsPane whether it is what a pane showed: the first one of those is put beside all others */
+	void AddPicture(const FPicture& Picture, const std::string& Caption, bool bIsPane);
 
 private:
-	void Append(const std::string& Html) const;
+	void AddPart();
 
-	FString Folder;
+	/** The class of elements that show the picture; written into the page with its first use. */
+	std::string ClassOf(const FPicture& Picture);
+
+	const std::filesystem::path Folder;
+	std::string Words;
+	std::string Steps;
+	std::string Figures;
+	std::set<std::string> Classes;
+	std::optional<FPicture> First;
 };

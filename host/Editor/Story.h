@@ -3,6 +3,7 @@
 // blanks together; "#" begins a comment line.
 #pragma once
 
+#include <filesystem>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -41,7 +42,7 @@ class FStory
 {
 public:
 	/** Reads a UTF-8 file. Throws FStoryError. */
-	explicit FStory(const std::string& File);
+	explicit FStory(const std::filesystem::path& InFile);
 
 	/** Each session needs a process of its own: an editor starts once in a process. */
 	size_t SessionCount() const { return AllSteps.empty() ? 0 : AllSteps.back().Session + 1; }
@@ -51,8 +52,8 @@ public:
 	/** The file's name without its extension, in words. */
 	std::string Title() const;
 
-	/** The folder that the story lies in, UTF-8; empty for the current one. */
-	std::string Folder() const;
+	/** The folder that the story lies in; empty for the current one. */
+	std::filesystem::path Folder() const { return File.parent_path(); }
 
 	/** The error for a place in this story. */
 	FStoryError Error(const FStoryStep& Step, size_t Column, const std::string& Reason) const;
@@ -60,9 +61,6 @@ public:
 private:
 	std::vector<FStoryWord> Split(const FStoryStep& Step) const;
 
-	/** The text of a comment line; empty for any other. */
-	static std::string CommentOf(const std::string& Line);
-
-	std::string Name;
+	std::filesystem::path File;
 	std::vector<FStoryStep> AllSteps;
 };

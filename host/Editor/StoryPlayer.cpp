@@ -1,37 +1,33 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "StoryPlayer.h"
 
+#include "EditorDriver.h"
 #include "Misc/OutputDeviceRedirector.h"
 #include "Misc/Paths.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <cwchar>
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <sstream>
 
 namespace
 {
+namespace fs = std::filesystem;
+
+using FArguments = TArray<FString>;
+
 constexpr const char* StartVerb = "start";
 constexpr const char* QuitVerb = "quit";
 
-FString Wide(const std::string& Text)
+std::string ReadFile(const fs::path& Path)
 {
-	return FString(UTF8_TO_TCHAR(Text.c_str()));
-}
-
-std::string ReadFile(const FString& Path)
-{
-	std::ifstream Stream(std::filesystem::path(*Path), std::ios::binary);
+	std::ifstream Stream(Path, std::ios::binary);
 	if (!Stream)
 	{
-		throw FDriverError(FString::Printf(TEXT("%s cannot be read"), *Path));
+		throw FDriverError(FString(Path.generic_wstring().c_str()) + TEXT(" cannot be read"));
 	}
-	std::ostringstream Text;
-	Text << Stream.rdbuf();
-	return Text.str();
+	return std::string(std::istreambuf_iterator<char>(Stream), {});
 }
 
 /** The text with the line ends that the editor writes, whatever the file was checked out with. */
@@ -44,64 +40,202 @@ std::string WithEditorLineEnds(const std::string& Text)
 	}
 	return Result;
 }
-} // namespace
 
-FStoryPlayer::FStoryPlayer(const FEngineLoopOptions& InOptions, const FReport& InReport)
-	: Options(InOptions), Report(InReport)
+class FStoryPlayer : private FOutputDevice
 {
-	GLog->AddOutputDevice(this);
-}
+public:
+	FStoryPlayer(const FStory& InStory, const FEngineLoopOptions& InOptions, FReport& InReport)
+		: Story(InStory), Options(InOptions), Report(InReport)
+	{
+		GLog->AddOutputDevice(this);
+	}
 
-FStoryPlayer::~FStoryPlayer()
+	~FStoryPlayer() override { GLog->RemoveOutputDevice(this); }
+
+	void Play(size_t Session);
+
+	/** What earlier stories left in the project. */
+	void ForgetProject() const
+	{
+		for (const char* Folder : {"Content", "ProgramData", "Saved"})
+		{
+			fs::remove_all(InProject(Folder));
+		}
+	}
+
+	void PutFile(const FString& From, const FString& To) const
+	{
+		const fs::path Target = InProject(*To);
+		fs::create_directories(Target.parent_path());
+		fs::remove_all(Target);
+		fs::copy(Story.Folder() / *From, Target, fs::copy_options::recursive);
+	}
+
+	void Start(const FArguments& Arguments)
+	{
+		Options.Culture = Arguments.IsEmpty() ? Options.Culture : Arguments.Last();
+		Driver.Start(Options);
+	}
+
+	void OpenPane(const FString& Key) { Driver.HasPane(Key) ? Driver.ActivatePane(Key) : Driver.OpenPane(Key); }
+
+	void OpenMenu(const FArguments& Arguments)
+	{
+		for (const FString& Name : Arguments)
+		{
+			Name.Equals(TEXT("View")) ? Driver.Menus().OpenViewMenu() : Driver.Menus().OpenSubMenu(Name);
+		}
+		ShowWindow();
+	}
+
+	/** Of the active pane, unless a window is named. */
+	void SavePicture(const FArguments& Arguments)
+	{
+		const bool bIsPane = Arguments.Num() < 2;
+		const FPicture Picture = bIsPane ? Driver.TakePicture() : Driver.Windows().Picture(Arguments[1]);
+		if (!::SavePicture(Picture, PictureFile(Arguments[0]).generic_wstring().c_str()))
+		{
+			throw FDriverError(Arguments[0] + TEXT(" cannot be written"));
+		}
+		Report.AddPicture(Picture, TCHAR_TO_UTF8(*Arguments[0]), bIsPane);
+	}
+
+	void ExpectPicture(bool bLike, const FString& Name)
+	{
+		if ((ReadFile(PictureFile(Name)) == EncodePicture(Driver.TakePicture())) != bLike)
+		{
+			throw FDriverError(TEXT("the active pane does not show what is expected of ") + Name);
+		}
+	}
+
+	void ExpectLog(const FString& Text)
+	{
+		if (!Log.ContainsByPredicate([&Text](const FString& Line)
+				{ return std::wstring_view(*Line).find(*Text) != std::wstring_view::npos; }))
+		{
+			throw FDriverError(TEXT("the log does not hold \"") + Text + TEXT("\""));
+		}
+	}
+
+	/** A whole row, whatever its depth. */
+	void ExpectMenu(const FString& Row)
+	{
+		const std::string Menu = TCHAR_TO_UTF8(*Driver.Menus().Text());
+		if (("\n" + Menu).find(std::string("\n") + TCHAR_TO_UTF8(*Row) + "\n") == std::string::npos &&
+			Menu.find(std::string("  ") + TCHAR_TO_UTF8(*Row) + "\n") == std::string::npos)
+		{
+			throw FDriverError(FString::Printf(
+				TEXT("no row of the open menus is \"%s\", only:\n%s"), *Row, UTF8_TO_TCHAR(Menu.c_str())));
+		}
+	}
+
+	void ExpectFile(const FString& File, const FString& Expected)
+	{
+		const std::string Actual = ReadFile(InProject(*File));
+		if (Actual != WithEditorLineEnds(ReadFile(Story.Folder() / *Expected)))
+		{
+			throw FDriverError(FString(TEXT("the file is another one:\n")) + UTF8_TO_TCHAR(Actual.c_str()));
+		}
+	}
+
+	FEditorDriver Driver;
+
+private:
+	fs::path InProject(const fs::path& File) const { return fs::path(*Options.ProjectFolder) / File; }
+
+	fs::path PictureFile(const FString& Name) const { return InProject("Saved/Pictures") / *(Name + TEXT(".png")); }
+
+	/** Prints the step, and puts it into the report. */
+	void Show(const FStoryStep& Step)
+	{
+		if (!Step.Narration.empty() && Driver.IsRunning() && !Report.HasFigure())
+		{
+			ShowWindow();
+		}
+		std::printf("%s\n", Step.Source.c_str());
+		std::fflush(stdout);
+		Report.AddStep(Step.Source, Step.Narration);
+	}
+
+	/** Puts what a user sees into the report; looking is no step, so nothing of it is logged. */
+	void ShowWindow()
+	{
+		GLog->RemoveOutputDevice(this);
+		Report.AddWindow(Driver);
+		GLog->AddOutputDevice(this);
+	}
+
+	void Serialize(const TCHAR* Text, ELogVerbosity::Type, const FName& Category) override
+	{
+		Log.Add(Category.ToString() + TEXT(": ") + Text);
+		std::printf("    %s\n", TCHAR_TO_UTF8(*Log.Last()));
+	}
+
+	const FStory& Story;
+	FEngineLoopOptions Options;
+	FReport& Report;
+
+	/** What the last step that is no expectation logged. */
+	TArray<FString> Log;
+};
+
+struct FVerb
 {
-	GLog->RemoveOutputDevice(this);
-}
+	/** The fixed words at the front of a step. */
+	std::string Words;
 
-const std::vector<FStoryPlayer::FVerb>& FStoryPlayer::Verbs()
-{
-	using P = FStoryPlayer;
-	using A = const FArguments;
-	static const std::vector<FVerb> All{
-		{"put file", 2, [](P& Player, A& Args) { Player.PutFile(Args[0], Args[1]); }},
-		{StartVerb, 0, [](P& Player, A& Args) { Player.Start(Args); }, true},
-		{"layout", 1, [](P& Player, A& Args) { Player.Driver.SetLayout(Args[0]); }},
-		{"open pane", 1, [](P& Player, A& Args) { Player.OpenPane(Args[0]); }},
-		{"close pane", 1, [](P& Player, A& Args) { Player.Driver.ClosePane(Args[0]); }},
-		{"open menu", 1, [](P& Player, A& Args) { Player.OpenMenu(Args); }, true},
-		{"click", 1, [](P& Player, A& Args) { Player.Driver.Menus().Click(Args[0]); }},
-		{"create asset", 2, [](P& Player, A& Args) { Player.Driver.CreateAsset(Args[0], Args[1]); }},
-		{"open assets", 1, [](P& Player, A& Args) { Player.Driver.OpenAssets(Args); }, true},
-		{"edit", 3, [](P& Player, A& Args) { Player.Driver.Windows().EditProperty(Args[0], Args[1], Args[2]); }},
-		{"slide", 2,
-			[](P& Player, A& Args) { Player.Driver.Windows().MoveSlider(Args[0], std::wcstof(*Args[1], nullptr)); }},
-		{"save picture", 1,
-			[](P& Player, A& Args) { Player.SavePicture(Args[0], Args.Num() > 1 ? Args[1] : FString()); }, true},
-		{"play", 1, [](P& Player, A& Args) { Player.Play(Args[0]); }},
-		{QuitVerb, 0, [](P& Player, A&) { Player.Driver.Quit(); }},
-		{"expect log", 1, [](P& Player, A& Args) { Player.ExpectLog(Args[0]); }},
-		{"expect menu", 1, [](P& Player, A& Args) { Player.ExpectMenu(Args[0]); }},
-		{"expect file", 2, [](P& Player, A& Args) { Player.ExpectFile(Args[0], Args[1]); }},
-		{"expect picture", 2, [](P& Player, A& Args) { Player.ExpectPicture(Args[0], Args[1]); }},
-	};
-	return All;
-}
+	int32 ArgumentCount;
+	void (*Do)(FStoryPlayer& Player, const FArguments& Arguments);
 
-const FStoryPlayer::FVerb& FStoryPlayer::FindVerb(const FStory& Story, const FStoryStep& Step, FArguments& OutArguments)
+	/** Whether the last argument may be repeated. */
+	bool bTakesMore = false;
+
+	bool bNeedsEditor = true;
+};
+
+using P = FStoryPlayer;
+using A = const FArguments;
+
+const std::vector<FVerb> Verbs{
+	{"put file", 2, [](P& Player, A& Args) { Player.PutFile(Args[0], Args[1]); }, false, false},
+	{StartVerb, 0, [](P& Player, A& Args) { Player.Start(Args); }, true, false},
+	{"layout", 1, [](P& Player, A& Args) { Player.Driver.SetLayout(Args[0]); }},
+	{"open pane", 1, [](P& Player, A& Args) { Player.OpenPane(Args[0]); }},
+	{"close pane", 1, [](P& Player, A& Args) { Player.Driver.ClosePane(Args[0]); }},
+	{"open menu", 1, [](P& Player, A& Args) { Player.OpenMenu(Args); }, true},
+	{"click", 1, [](P& Player, A& Args) { Player.Driver.Menus().Click(Args[0]); }},
+	{"create asset", 2, [](P& Player, A& Args) { Player.Driver.CreateAsset(Args[0], Args[1]); }},
+	{"open assets", 1, [](P& Player, A& Args) { Player.Driver.OpenAssets(Args); }, true},
+	{"edit", 3, [](P& Player, A& Args) { Player.Driver.Windows().EditProperty(Args[0], Args[1], Args[2]); }},
+	{"slide", 2,
+		[](P& Player, A& Args) { Player.Driver.Windows().MoveSlider(Args[0], std::wcstof(*Args[1], nullptr)); }},
+	{"save picture", 1, [](P& Player, A& Args) { Player.SavePicture(Args); }, true},
+	{"play", 0, [](P& Player, A&) { Player.Driver.PlayInPane(); }},
+	{"stop", 0, [](P& Player, A&) { Player.Driver.EndPlay(); }},
+	{QuitVerb, 0, [](P& Player, A&) { Player.Driver.Quit(); }},
+	{"expect log", 1, [](P& Player, A& Args) { Player.ExpectLog(Args[0]); }, false, false},
+	{"expect menu", 1, [](P& Player, A& Args) { Player.ExpectMenu(Args[0]); }},
+	{"expect file", 2, [](P& Player, A& Args) { Player.ExpectFile(Args[0], Args[1]); }, false, false},
+	{"expect picture like", 1, [](P& Player, A& Args) { Player.ExpectPicture(true, Args[0]); }},
+	{"expect picture unlike", 1, [](P& Player, A& Args) { Player.ExpectPicture(false, Args[0]); }},
+};
+
+const FVerb& FindVerb(const FStory& Story, const FStoryStep& Step, FArguments& OutArguments)
 {
 	std::string Front;
 	for (size_t Count = 1; Count <= Step.Words.size(); ++Count)
 	{
 		Front += (Front.empty() ? "" : " ") + Step.Words[Count - 1].Text;
 		const auto Verb = std::find_if(
-			Verbs().begin(), Verbs().end(), [&Front](const FVerb& Candidate) { return Candidate.Words == Front; });
-		if (Verb == Verbs().end())
+			Verbs.begin(), Verbs.end(), [&Front](const FVerb& Candidate) { return Candidate.Words == Front; });
+		if (Verb == Verbs.end())
 		{
 			continue;
 		}
 		OutArguments.Empty();
 		for (size_t Index = Count; Index < Step.Words.size(); ++Index)
 		{
-			OutArguments.Add(Wide(Step.Words[Index].Text));
+			OutArguments.Add(UTF8_TO_TCHAR(Step.Words[Index].Text.c_str()));
 		}
 		const int32 Given = OutArguments.Num();
 		if (Given < Verb->ArgumentCount || (Given > Verb->ArgumentCount && !Verb->bTakesMore))
@@ -115,7 +249,34 @@ const FStoryPlayer::FVerb& FStoryPlayer::FindVerb(const FStory& Story, const FSt
 	throw Story.Error(Step, Step.Words[0].Column, "unknown verb \"" + Step.Words[0].Text + "\"");
 }
 
-void FStoryPlayer::Check(const FStory& Story)
+void FStoryPlayer::Play(size_t Session)
+{
+	FArguments Arguments;
+	for (const FStoryStep& Step : Story.Steps())
+	{
+		if (Step.Session != Session)
+		{
+			continue;
+		}
+		const FVerb& Verb = FindVerb(Story, Step, Arguments);
+		try
+		{
+			Show(Step);
+			if (!Verb.Words.starts_with("expect"))
+			{
+				Log.Empty();
+			}
+			Verb.Do(*this, Arguments);
+		}
+		catch (const std::runtime_error& Failure)
+		{
+			throw Story.Error(Step, Step.Words[0].Column, Failure.what());
+		}
+	}
+}
+} // namespace
+
+void CheckStory(const FStory& Story)
 {
 	FArguments Ignored;
 	bool bIsRunning = false;
@@ -123,192 +284,21 @@ void FStoryPlayer::Check(const FStory& Story)
 	{
 		const FVerb& Verb = FindVerb(Story, Step, Ignored);
 		const bool bStarts = Verb.Words == StartVerb;
-		if (bStarts && bIsRunning)
+		if (bStarts == bIsRunning && (bStarts || Verb.bNeedsEditor))
 		{
-			throw Story.Error(Step, Step.Words[0].Column, "the editor is running already");
+			throw Story.Error(
+				Step, Step.Words[0].Column, bStarts ? "the editor is running already" : "the editor is not running");
 		}
 		bIsRunning = bStarts || (bIsRunning && Verb.Words != QuitVerb);
 	}
 }
 
-void FStoryPlayer::Play(const FStory& Story, size_t Session)
+void PlayStory(const FStory& Story, size_t Session, const FEngineLoopOptions& Options, FReport& Report)
 {
-	StoryFolder = Wide(Story.Folder());
+	FStoryPlayer Player(Story, Options, Report);
 	if (Session == 0)
 	{
-		ForgetProject();
+		Player.ForgetProject();
 	}
-	FArguments Arguments;
-	for (const FStoryStep& Step : Story.Steps())
-	{
-		const FVerb& Verb = FindVerb(Story, Step, Arguments);
-		if (Step.Session != Session)
-		{
-			continue;
-		}
-		Show(Step);
-		if (!Verb.Words.starts_with("expect"))
-		{
-			Log.Empty();
-		}
-		try
-		{
-			Verb.Do(*this, Arguments);
-		}
-		catch (const FDriverError& Failure)
-		{
-			throw Story.Error(Step, Step.Words[0].Column, Failure.what());
-		}
-	}
-}
-
-void FStoryPlayer::Show(const FStoryStep& Step) const
-{
-	std::printf("%s\n", Step.Source.c_str());
-	std::fflush(stdout);
-	if (!Step.Narration.empty())
-	{
-		Report.AddNarration(Step.Narration);
-	}
-	Report.AddStep(Step.Source);
-}
-
-void FStoryPlayer::Serialize(const TCHAR* Text, ELogVerbosity::Type, const FName& Category)
-{
-	Log.Add(Category.ToString() + TEXT(": ") + Text);
-	std::printf("    %s\n", TCHAR_TO_UTF8(*Log.Last()));
-}
-
-void FStoryPlayer::ForgetProject()
-{
-	for (const char* Folder : {"Content", "ProgramData", "Saved"})
-	{
-		std::error_code Failure;
-		std::filesystem::remove_all(std::filesystem::path(*Options.ProjectFolder) / Folder, Failure);
-		if (Failure)
-		{
-			throw FDriverError(TEXT("the project's files cannot be removed"));
-		}
-	}
-}
-
-void FStoryPlayer::PutFile(const FString& From, const FString& To)
-{
-	const std::filesystem::path Source = *FPaths::Combine(StoryFolder, From);
-	const std::filesystem::path Target = *FPaths::Combine(Options.ProjectFolder, To);
-	std::error_code Failure;
-	std::filesystem::create_directories(Target.parent_path(), Failure);
-	if (std::filesystem::is_regular_file(Target, Failure))
-	{
-		std::filesystem::remove(Target, Failure);
-	}
-	std::filesystem::copy(Source, Target, std::filesystem::copy_options::recursive, Failure);
-	if (Failure)
-	{
-		throw FDriverError(From + TEXT(" cannot be copied"));
-	}
-}
-
-void FStoryPlayer::Start(const FArguments& Arguments)
-{
-	if (!Arguments.IsEmpty())
-	{
-		Options.Culture = Arguments.Last();
-	}
-	Driver.Start(Options);
-}
-
-void FStoryPlayer::OpenPane(const FString& Key)
-{
-	Driver.HasPane(Key) ? Driver.ActivatePane(Key) : Driver.OpenPane(Key);
-}
-
-void FStoryPlayer::OpenMenu(const FArguments& Arguments)
-{
-	for (const FString& Name : Arguments)
-	{
-		Name.Equals(TEXT("View")) ? Driver.Menus().OpenViewMenu() : Driver.Menus().OpenSubMenu(Name);
-	}
-	Report.AddMenu(TCHAR_TO_UTF8(*Driver.Menus().Text()));
-}
-
-FString FStoryPlayer::PictureFile(const FString& Name) const
-{
-	return FPaths::Combine(Options.ProjectFolder, TEXT("Saved/Pictures"), Name + TEXT(".png"));
-}
-
-void FStoryPlayer::SavePicture(const FString& Name, const FString& Window)
-{
-	const FPicture Picture = Window.IsEmpty() ? Driver.TakePicture() : Driver.Windows().Picture(Window);
-	if (!::SavePicture(Picture, PictureFile(Name)))
-	{
-		throw FDriverError(PictureFile(Name) + TEXT(" cannot be written"));
-	}
-	Report.AddPicture(PictureFile(Name), TCHAR_TO_UTF8(*Name));
-}
-
-void FStoryPlayer::ExpectPicture(const FString& Likeness, const FString& Name)
-{
-	const bool bLike = Likeness.Equals(TEXT("like"));
-	if (!bLike && !Likeness.Equals(TEXT("unlike")))
-	{
-		throw FDriverError(TEXT("a picture is expected to be \"like\" or \"unlike\" a saved one"));
-	}
-	FPicture Saved;
-	if (!LoadPicture(PictureFile(Name), Saved))
-	{
-		throw FDriverError(PictureFile(Name) + TEXT(" cannot be read"));
-	}
-	if (IsSamePicture(Driver.TakePicture(), Saved) != bLike)
-	{
-		throw FDriverError(TEXT("the active pane does not show a picture ") + Likeness + TEXT(" ") + Name);
-	}
-}
-
-void FStoryPlayer::Play(const FString& Where)
-{
-	const std::map<FString, void (FEditorDriver::*)()> Actions{{TEXT("pane"), &FEditorDriver::PlayInPane},
-		{TEXT("window"), &FEditorDriver::PlayInWindow}, {TEXT("stop"), &FEditorDriver::EndPlay}};
-	const auto Action = Actions.find(Where);
-	if (Action == Actions.end())
-	{
-		throw FDriverError(TEXT("play is in a pane or a window, or stops"));
-	}
-	(Driver.*Action->second)();
-}
-
-void FStoryPlayer::ExpectLog(const FString& Text)
-{
-	if (!Log.ContainsByPredicate(
-			[&Text](const FString& Line) { return std::wstring_view(*Line).find(*Text) != std::wstring_view::npos; }))
-	{
-		throw FDriverError(TEXT("the log does not hold \"") + Text + TEXT("\""));
-	}
-}
-
-void FStoryPlayer::ExpectMenu(const FString& Expected)
-{
-	// Whole rows, whatever their depth.
-	const std::string Wanted = TCHAR_TO_UTF8(*Expected);
-	std::istringstream Menu(TCHAR_TO_UTF8(*Driver.Menus().Text()));
-	std::string Others;
-	for (std::string Row; std::getline(Menu, Row);)
-	{
-		Row.erase(0, Row.find_first_not_of(' '));
-		if (Row == Wanted)
-		{
-			return;
-		}
-		Others += " \"" + Row + "\"";
-	}
-	throw FDriverError(TEXT("no row of the open menus is \"") + Wide(Wanted + "\", only:" + Others));
-}
-
-void FStoryPlayer::ExpectFile(const FString& File, const FString& Expected)
-{
-	const std::string Actual = ReadFile(FPaths::Combine(Options.ProjectFolder, File));
-	if (Actual != WithEditorLineEnds(ReadFile(FPaths::Combine(StoryFolder, Expected))))
-	{
-		throw FDriverError(TEXT("the file is another one:\n") + Wide(Actual));
-	}
+	Player.Play(Session);
 }

@@ -42,7 +42,7 @@ TEST_F(PlayInEditor, TakesTheWholeRecordOfTheActivePane)
 		{EPlayCancellation::MapSaveRefused, EPlayCancellation::NotAuthorized, EPlayCancellation::ErrorPrompt})
 	{
 		Driver.ActivatePane(PaneA);
-		Driver.PlayCancelled(Cancellation);
+		Driver.PlayInWindow(Cancellation);
 		EXPECT_EQ(GEditor->GetPIEViewport(), nullptr);
 		Driver.ActivatePane(PaneB);
 		Driver.PlayInWindow();

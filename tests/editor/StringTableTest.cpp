@@ -4,7 +4,6 @@
 
 #include "ChildProcess.h"
 #include "EditorTest.h"
-#include "Host/Culture.h"
 #include "ImportOverride.h"
 #include "RedirectMachineFolder.h"
 
@@ -120,7 +119,7 @@ TEST_F(StringTable, FailuresOfTheFolderAreRaisedAndStopAtStartUp)
 	std::filesystem::create_directories(Folder().parent_path());
 	std::ofstream(Folder(), std::ios::binary) << "a file";
 	EXPECT_THROW(LoadStringTable("fr"), boost::filesystem::filesystem_error);
-	HostCulture::Set(TEXT("fr-CA"));
+	FInternationalization::Get().SetCurrentCulture(TEXT("fr-CA"));
 	LoadEditorStrings();
 	EXPECT_THAT(TakeLog("LogTemp"),
 		ElementsAre(StartsWith("Warning: LoadEditorStrings: directory_iterator::directory_iterator")));
@@ -145,7 +144,7 @@ TEST_F(StringTable, StartUpTakesTheLanguageOfTheCulture)
 	Write("en-US", "{\"key\": \"English\"}");
 	Write("fr-FR", "{\"key\": \"France\"}");
 	Write("fr-ZZ", "{\"key\": \"last\"}");
-	HostCulture::Set(TEXT("fr-FR"));
+	FInternationalization::Get().SetCurrentCulture(TEXT("fr-FR"));
 	LoadEditorStrings();
 	EXPECT_EQ(Text("key"), "last") << "the region is not passed on";
 }
@@ -163,7 +162,7 @@ TEST_F(StringTable, WithoutACultureStartUpIsFatal)
 {
 	EXPECT_EXIT(
 		{
-			HostCulture::Clear();
+			FInternationalization::Get().SetCurrentCulture(FString());
 			LoadEditorStrings();
 		},
 		testing::ExitedWithCode(3), "IsValid\\(\\)");

@@ -1,21 +1,18 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// Assets, their types, style sets and drawn viewports, with types of the tests' own.
+// Assets, their types, collections and drawn viewports, with types of the tests' own.
 #include "AssetToolsModule.h"
 #include "AssetTypeActions_Base.h"
 #include "EditorTest.h"
 #include "Host/Assets.h"
-#include "Host/SceneRenderer.h"
 #include "Modules/ModuleManager.h"
-#include "Probe.h"
 #include "ProbeSettings.h"
-#include "Slate/SceneViewport.h"
-#include "Styling/SlateStyleRegistry.h"
 #include "Subsystems/AssetEditorSubsystem.h"
 #include "UObject/UObjectGlobals.h"
+#include "UObject/WeakObjectPtr.h"
+
+#include <algorithm>
 
 using testing::ElementsAre;
-using testing::ExitedWithCode;
-using testing::HasSubstr;
 
 namespace
 {
@@ -79,7 +76,6 @@ TEST_F(Assets, LieInTheContentFolder)
 	EXPECT_EQ(FAssetData(A), HostAssets::GetAll()[0]);
 	EXPECT_EQ(FAssetData(A).GetClass(), A->GetClass());
 	EXPECT_FALSE(FAssetData(nullptr).IsValid());
-	Driver.Quit();
 }
 
 TEST_F(Assets, AreOpenedTogetherOnlyWhenOfOneClass)
@@ -107,19 +103,6 @@ TEST_F(Assets, AreOpenedTogetherOnlyWhenOfOneClass)
 	EXPECT_THAT(Replaced, ElementsAre());
 	Tools().UnregisterAssetTypeActions(First);
 	EXPECT_EQ(Tools().GetAssetTypeActionsForClass(A->GetClass()).Pin(), Any);
-	Driver.Quit();
-}
-
-TEST_F(Assets, TwoStyleSetsOfOneNameAreFatal)
-{
-	const FSlateStyleSet Style("Probe");
-	FSlateStyleRegistry::RegisterSlateStyle(Style);
-	FSlateStyleRegistry::UnRegisterSlateStyle(Style);
-	FSlateStyleRegistry::UnRegisterSlateStyle(Style);
-	FSlateStyleRegistry::RegisterSlateStyle(Style);
-	EXPECT_EXIT(
-		FSlateStyleRegistry::RegisterSlateStyle(FSlateStyleSet("Probe")), ExitedWithCode(3), HasSubstr("Probe"));
-	FSlateStyleRegistry::UnRegisterSlateStyle(Style);
 }
 
 TEST_F(Assets, ViewportsReadBackTheChartThatWasDrawn)
@@ -136,13 +119,32 @@ TEST_F(Assets, ViewportsReadBackTheChartThatWasDrawn)
 	EXPECT_EQ(Picture.Pixels[4 * 16 + 15], FColor(87, 108, 67, 0));
 	EXPECT_EQ(Picture.Pixels[7 * 16], FColor(0, 0, 0, 0));
 	EXPECT_EQ(Picture.Pixels[7 * 16 + 15], FColor(255, 255, 255, 0));
+}
 
-	TakeTrace();
-	FSceneViewport Undrawn(nullptr);
-	Undrawn.SetFixedViewportSize(0, 0);
-	Undrawn.Draw();
-	TArray<FColor> Pixels;
-	EXPECT_FALSE(Undrawn.ReadPixels(Pixels));
-	EXPECT_THAT(TakeTrace(), ElementsAre("read pixels"));
-	Driver.Quit();
+TEST_F(Assets, CollectionsLeaveWhatCanBeReached)
+{
+	Driver.Start(Options);
+	UClass* const Class =
+		static_cast<UClass*>(StaticFindObject(UClass::StaticClass(), TEXT("/Script/Probe.ProbeSettings")));
+	const auto Make = [Class](UObject* Outer)
+	{ return static_cast<UProbeSettings*>(NewObject<UObject>(Outer, Class)); };
+	const auto MakeInAnother = [&] { return Make(Make(CreatePackage(TEXT("/Engine/Transient")))); };
+	UProbeSettings* const Root = static_cast<UProbeSettings*>(Class->GetDefaultObject());
+	UProbeSettings* const Element = MakeInAnother();
+	UProbeSettings* const Below = MakeInAnother();
+	Root->Entries.Emplace_GetRef().Object = Element;
+	Element->Entries.Emplace_GetRef().Object = Below;
+	Below->Entries.Emplace_GetRef().Object = Root;
+	const FWeakObjectPtr Reached[] = {Element, Element->GetOuter(), Below, Below->GetOuter()};
+	UProbeSettings* const Lonely = MakeInAnother();
+	const FWeakObjectPtr Unreached[] = {Lonely, Lonely->GetOuter(), Make(Element)};
+	const auto IsThere = [](const FWeakObjectPtr& Object) { return Object.Get() != nullptr; };
+	CollectGarbage();
+	EXPECT_TRUE(std::ranges::all_of(Reached, IsThere));
+	EXPECT_TRUE(std::ranges::none_of(Unreached, IsThere));
+	// Garbage goes although it is referred to, and with it what nothing else refers to.
+	Element->MarkAsGarbage();
+	CollectGarbage();
+	EXPECT_EQ(Root->Entries[0].Object, nullptr);
+	EXPECT_TRUE(std::ranges::none_of(Reached, IsThere));
 }

@@ -2,11 +2,8 @@
 #include "EditorTest.h"
 
 #include <functional>
-#include <stdexcept>
 
 using testing::ElementsAre;
-using testing::ExitedWithCode;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace
@@ -28,9 +25,6 @@ struct FListener : TSharedFromThis<FListener>
 		}
 		Calls.back() += Suffix;
 	}
-
-	void OnConstEvent(int32) const { Calls.push_back(Name + " const"); }
-	void OnEventWithPayload(int32 Value, int32 A, std::string B) { Calls.push_back(B + std::to_string(Value + A)); }
 
 	FLines& Calls;
 	std::string Name;
@@ -61,16 +55,6 @@ protected:
 	FListener B{Calls, "B"};
 	FListener C{Calls, "C"};
 };
-
-TEST_F(FDelegates, BroadcastCallsTheLastAddedFirstAndTwiceWhatWasAddedTwice)
-{
-	Event.AddRaw(&A, &FListener::OnEvent);
-	Event.AddRaw(const_cast<const FListener*>(&B), &FListener::OnConstEvent);
-	Event.AddRaw(&A, &FListener::OnEvent);
-	Event.Add(FOnEvent::FDelegate::CreateRaw(&C, &FListener::OnEventWithPayload, 10, std::string("payload ")));
-	EXPECT_FALSE(Event.Add(FOnEvent::FDelegate()).IsValid()) << "unbound delegates are not added";
-	EXPECT_THAT(Broadcast(), ElementsAre("payload 11", "A", "B const", "A"));
-}
 
 TEST_F(FDelegates, ChangesDuringABroadcast)
 {
@@ -128,13 +112,4 @@ TEST_F(FDelegates, ACallMayUnbindItsDelegateOrDropItsObject)
 	EXPECT_EQ(Answer.Execute(1), 2);
 	EXPECT_FALSE(Answer.IsBound());
 	EXPECT_EQ(Copy.Execute(14), 42);
-}
-
-TEST_F(FDelegates, MisuseIsFatal)
-{
-	const char* const NullText = "Assertion failed: InUserObject != nullptr && MethodPtr != nullptr [File:";
-	void (FListener::*NoMethod)(int32) = nullptr;
-	FListener* NoObject = nullptr;
-	EXPECT_EXIT(Event.AddRaw(NoObject, &FListener::OnEvent), ExitedWithCode(3), HasSubstr(NullText));
-	EXPECT_EXIT(Event.AddRaw(&A, NoMethod), ExitedWithCode(3), HasSubstr(NullText));
 }

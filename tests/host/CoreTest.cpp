@@ -1,68 +1,101 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// Names, conversions, and what is fatal with arrays and pointers.
-#include "CoreMinimal.h"
+// Names, and what is fatal or reported in the basic types.
+#include "EditorTest.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include <cstdlib>
+#include <functional>
 
+using testing::AllOf;
+using testing::ElementsAre;
 using testing::ExitedWithCode;
 using testing::HasSubstr;
+using testing::Not;
 
-TEST(FCoreNames, CompareWithoutCaseAndKeepIt)
+namespace
 {
-	for (const TCHAR* Text : {TEXT("Pane"), TEXT("Pane_12"), TEXT("PANE_12"), TEXT("Pane_01"), TEXT("none_3")})
+struct FWidget : TSharedFromThis<FWidget>
+{
+	void OnEvent() {}
+};
+
+struct FUnwindingShows
+{
+	~FUnwindingShows() { std::fputs("unwound", stderr); }
+};
+
+constexpr int32 FailingLine = __LINE__ + 3;
+void FailCheck(int32 Value)
+{
+	checkf(Value == 2, TEXT("the value is %d\nand %s"), Value, TEXT("odd"));
+}
+} // namespace
+
+using FCore = FEditorTest;
+
+TEST_F(FCore, NamesCompareWithoutCaseAndKeepIt)
+{
+	for (const TCHAR* Text : {TEXT("Pane_12"), TEXT("PANE_12"), TEXT("none_3")})
 	{
-		EXPECT_TRUE(FName(Text).ToString().Equals(Text)) << TCHAR_TO_UTF8(Text);
-		EXPECT_TRUE(FName(Text) == FName(*FString(Text).ToLower()));
+		EXPECT_TRUE(FName(Text).ToString().Equals(Text));
+		EXPECT_TRUE(FName(Text) == FName(*FString(Text).ToLower()) && !FName(Text).IsNone());
 		EXPECT_EQ(GetTypeHash(FName(Text)), GetTypeHash(FName(*FString(Text).ToLower())));
-		EXPECT_FALSE(FName(Text).IsNone());
 	}
-	EXPECT_FALSE(FName("ab_1") == FName("ab_01") || FName("ab_1") == FName("ab"));
 	EXPECT_FALSE(FName(TEXT("\u00e4")) == FName(TEXT("\u00c4"))) << "only ASCII letters are folded";
-	const TCHAR* Null = nullptr;
-	for (const FName& None : {FName(), NAME_None, FName(""), FName(Null), FName("none"), FName(TEXT("NONE"))})
+	for (const FName& None : {FName(), FName(""), FName("NONE")})
 	{
-		EXPECT_TRUE(None.IsNone() && None == NAME_None && None.ToString() == TEXT("None"));
+		EXPECT_TRUE(None.IsNone() && None.ToString() == TEXT("None"));
 	}
-	EXPECT_EXIT(FName(std::wstring(1024, L'x').c_str()), ExitedWithCode(3), HasSubstr("NAME_SIZE"));
 }
 
-TEST(FCoreStrings, ConversionsComeBack)
+TEST_F(FCore, MisuseIsFatal)
 {
-	for (const std::string Text : {"", "plain", "\xC3\xA4\xC3\x9F", "\xE4\xB8\xAD", "\xF0\x9F\x8E\xA8", "a%sb"})
-	{
-		const FString Wide = UTF8_TO_TCHAR(Text.c_str());
-		EXPECT_EQ(TCHAR_TO_UTF8(*Wide), Text);
-		const FUTF8ToTCHAR Sized(Text.data(), static_cast<int32>(Text.size()));
-		EXPECT_TRUE(FString::ConstructFromPtrSize(Sized.Get(), Sized.Length()).Equals(Wide));
-		EXPECT_NE(Sized.Get()[Sized.Length()], 0) << "sized results are not terminated";
-	}
-	EXPECT_TRUE(FString(UTF8_TO_TCHAR("x\xFFy")).Equals(TEXT("x\uFFFDy"))) << "malformed";
-	EXPECT_STREQ(TCHAR_TO_UTF8(nullptr), "");
-}
-
-TEST(FCoreArrays, BadIndicesAreFatal)
-{
-	TArray<int32> Array = {1, 2};
-	EXPECT_EXIT(Array[2], ExitedWithCode(3), HasSubstr("Array index out of bounds: 2 into an array of size 2"));
-	EXPECT_EXIT(Array.RemoveAt(-1), ExitedWithCode(3), HasSubstr("index out of bounds: -1 into an array of size 2"));
-	EXPECT_EXIT(
-		TArray<int32>().Last(), ExitedWithCode(3), HasSubstr("index out of bounds: -1 into an array of size 0"));
-}
-
-TEST(FCorePointers, NullIsFatalWhereItIsUsed)
-{
-	struct FWidget : TSharedFromThis<FWidget>
-	{
-		int32 Value = 1;
+	const std::pair<std::function<void()>, const char*> Rows[] = {
+		{[] {
+			 TArray<int32>{1, 2}[2] = 0;
+		 },
+			"Array index out of bounds: 2 into an array of size 2"},
+		{[] { TArray<int32>{1}.RemoveAt(-1); }, "Array index out of bounds: -1 into an array of size 1"},
+		{[] { TSharedPtr<FWidget>()->OnEvent(); }, "Assertion failed: IsValid() [File:"},
+		{[] { static_cast<void>(FWidget().AsShared()); }, "Assertion failed: IsValid() [File:"},
+		{[] { FName(std::wstring(1024, L'x').c_str()); }, "NAME_SIZE"},
+		{[] { FSimpleMulticastDelegate().AddRaw(static_cast<FWidget*>(nullptr), &FWidget::OnEvent); },
+			"Assertion failed: InUserObject != nullptr && MethodPtr != nullptr [File:"},
 	};
-	TSharedRef<FWidget> Ref = MakeShared<FWidget>();
-	const TSharedRef<FWidget> Moved = std::move(Ref);
-	EXPECT_EQ(Ref->AsShared(), Moved) << "references are never null";
-	const TSharedPtr<FWidget> Null;
-	const char* const NullText = "Assertion failed: IsValid() [File:";
-	EXPECT_EXIT(static_cast<void>(Null->Value), ExitedWithCode(3), HasSubstr(NullText));
-	EXPECT_EXIT(static_cast<void>((*Null).Value), ExitedWithCode(3), HasSubstr(NullText));
-	EXPECT_EXIT(static_cast<void>(Null.ToSharedRef()), ExitedWithCode(3), HasSubstr(NullText));
-	EXPECT_EXIT(static_cast<void>(FWidget().AsShared()), ExitedWithCode(3), HasSubstr(NullText));
+	for (const auto& [Misuse, Text] : Rows)
+	{
+		EXPECT_EXIT(Misuse(), ExitedWithCode(3), HasSubstr(Text));
+	}
+}
+
+TEST_F(FCore, FailedCheckEndsTheProcessAtOnce)
+{
+	const std::string Head =
+		"Assertion failed: Value == 2 [File:" __FILE__ "] [Line: " + std::to_string(FailingLine) + "] ";
+	EXPECT_EXIT(
+		{
+			std::atexit([] { std::fputs("at exit", stderr); });
+			const FUnwindingShows Local;
+			FailCheck(7);
+		},
+		ExitedWithCode(3),
+		AllOf(HasSubstr(Head + "\nthe value is 7\nand odd\n"), Not(HasSubstr("unwound")), Not(HasSubstr("at exit"))));
+}
+
+TEST_F(FCore, FailedEnsureIsReportedOnceAndGoesOn)
+{
+	for (int32 Times = 0; Times < 2; ++Times)
+	{
+		TArray<int32> Array = {1, 2, 3};
+		Array.RemoveAt(2); // leaves room, so that nothing moves
+		for (const int32 Element : Array)
+		{
+			if (Element == 1)
+			{
+				Array.Add(Element);
+			}
+		}
+	}
+	EXPECT_THAT(TakeLog("LogOutputDevice"), ElementsAre("Error: === Handled ensure: ===", "Error: ",
+												HasSubstr("Error: Ensure condition failed: CurrentNum == InitialNum "),
+												"Error: Array has changed during ranged-for iteration!"));
 }

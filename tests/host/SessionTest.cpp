@@ -68,19 +68,6 @@ TEST_F(Session, PaneEventsComeInTheEnginesOrder)
 	EXPECT_THROW(Driver.ClosePane(TEXT("FourPanes2x2.Viewport 1.Viewport0")), FDriverError);
 }
 
-TEST_F(Session, ActiveViewportFollowsTheUser)
-{
-	Driver.Start(Options);
-	EXPECT_EQ(GEditor->GetActiveViewport(), nullptr);
-	Driver.OpenPane(TEXT("A"));
-	Driver.OpenPane(TEXT("B"));
-	EXPECT_EQ(GEditor->GetActiveViewport(), Driver.Pane(TEXT("B")).GetLevelViewportClient().Viewport);
-	Driver.ActivatePane(TEXT("A"));
-	EXPECT_EQ(GEditor->GetActiveViewport(), Driver.Pane(TEXT("A")).GetLevelViewportClient().Viewport);
-	Driver.ClosePane(TEXT("A"));
-	EXPECT_EQ(GEditor->GetActiveViewport(), Driver.Pane(TEXT("B")).GetLevelViewportClient().Viewport);
-}
-
 TEST_F(Session, PlayEventsComeInTheEnginesOrder)
 {
 	Driver.Start(Options);
@@ -100,11 +87,11 @@ TEST_F(Session, PlayEventsComeInTheEnginesOrder)
 	Driver.EndPlay();
 	TakeProbe();
 
-	Driver.PlayCancelled(EPlayCancellation::MapSaveRefused);
+	Driver.PlayInWindow(EPlayCancellation::MapSaveRefused);
 	EXPECT_THAT(TakeProbe(), ElementsAre("CancelPIE"));
-	Driver.PlayCancelled(EPlayCancellation::NotAuthorized);
+	Driver.PlayInWindow(EPlayCancellation::NotAuthorized);
 	EXPECT_THAT(TakeProbe(), ElementsAre("StartPIE: play viewport no", "PreBeginPIE: play viewport no", "CancelPIE"));
-	Driver.PlayCancelled(EPlayCancellation::ErrorPrompt);
+	Driver.PlayInWindow(EPlayCancellation::ErrorPrompt);
 	EXPECT_THAT(TakeProbe(), ElementsAre("StartPIE: play viewport no", "PreBeginPIE: play viewport no",
 								 "BeginPIE: play viewport no", "EndPIE: play viewport no", "CancelPIE"));
 }

@@ -3,15 +3,12 @@
 
 #include "IAssetTools.h"
 #include "Modules/ModuleInterface.h"
-#include "Templates/UniquePtr.h"
 
 class FAssetToolsModule : public IModuleInterface
 {
 public:
-	void StartupModule() override;
-
-	virtual IAssetTools& Get() const { return *AssetTools; }
+	virtual IAssetTools& Get() const { return AssetTools; }
 
 private:
-	TUniquePtr<IAssetTools> AssetTools;
+	mutable IAssetTools AssetTools;
 };

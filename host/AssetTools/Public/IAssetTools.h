@@ -6,21 +6,25 @@
 
 class UFactory;
 
-class IAssetTools
+class ASSETTOOLS_API IAssetTools
 {
 public:
 	virtual ~IAssetTools() = default;
 
 	/** What was registered for the same class before is replaced. */
-	virtual void RegisterAssetTypeActions(const TSharedRef<IAssetTypeActions>& NewActions) = 0;
+	virtual void RegisterAssetTypeActions(const TSharedRef<IAssetTypeActions>& NewActions);
 
 	/** Removes what is registered for the actions' class, whoever registered it. */
-	virtual void UnregisterAssetTypeActions(const TSharedRef<IAssetTypeActions>& ActionsToRemove) = 0;
+	virtual void UnregisterAssetTypeActions(const TSharedRef<IAssetTypeActions>& ActionsToRemove);
 
 	/** The actions of the class or of its nearest base that has some; invalid when there are none. */
-	virtual TWeakPtr<IAssetTypeActions> GetAssetTypeActionsForClass(const UClass* Class) const = 0;
+	virtual TWeakPtr<IAssetTypeActions> GetAssetTypeActionsForClass(const UClass* Class) const;
 
 	/** Makes an asset of that name in a folder such as "/Game/Looks". @return null when the factory makes none */
 	virtual UObject* CreateAsset(const FString& AssetName, const FString& PackagePath, UClass* AssetClass,
-		UFactory* Factory, FName CallingContext = NAME_None) = 0;
+		UFactory* Factory, FName CallingContext = NAME_None);
+
+private:
+	/** By supported class. */
+	TMap<const UClass*, TSharedPtr<IAssetTypeActions>> Actions;
 };

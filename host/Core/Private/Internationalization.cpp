@@ -1,13 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Internationalization/Internationalization.h"
 
-#include "Host/Culture.h"
 #include "Internationalization/Culture.h"
-
-namespace
-{
-TSharedPtr<FCulture> Current;
-}
 
 FInternationalization& FInternationalization::Get()
 {
@@ -15,17 +9,7 @@ FInternationalization& FInternationalization::Get()
 	return Instance;
 }
 
-FCultureRef FInternationalization::GetCurrentCulture() const
+void FInternationalization::SetCurrentCulture(const FString& InCultureName)
 {
-	return Current.ToSharedRef();
-}
-
-void HostCulture::Set(const FString& Name)
-{
-	Current = MakeShared<FCulture>(Name);
-}
-
-void HostCulture::Clear()
-{
-	Current.Reset();
+	Current = InCultureName.IsEmpty() ? nullptr : TSharedPtr<FCulture>(MakeShared<FCulture>(InCultureName));
 }

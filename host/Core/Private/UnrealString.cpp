@@ -21,18 +21,12 @@ FString FString::PrintfImpl(const TCHAR* Format, ...)
 FString& FString::operator/=(FStringView Other)
 {
 	const auto IsSlash = [](TCHAR Char) { return Char == TEXT('/') || Char == TEXT('\\'); };
-	if (IsEmpty() || Other.Len() == 0)
-	{
-		return *this += Other;
-	}
-	if (IsSlash(Data.back()))
+	const bool bJoins = !IsEmpty() && Other.Len() > 0;
+	if (bJoins && IsSlash(Data.back()))
 	{
 		Data.pop_back();
 	}
-	if (!IsSlash(*Other.begin()))
-	{
-		Data += TEXT('/');
-	}
+	Data += bJoins && !IsSlash(*Other.begin()) ? TEXT("/") : TEXT("");
 	return *this += Other;
 }
 

@@ -1,7 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "EditorDriver.h"
 
-#include "Editor.h"
 #include "Host/Assets.h"
 #include "Host/ContentBrowser.h"
 #include "Host/Trace.h"
@@ -18,49 +17,22 @@ FLevelEditorModule& LevelEditor()
 {
 	return FModuleManager::GetModuleChecked<FLevelEditorModule>("LevelEditor");
 }
-
-TSharedRef<SLevelViewport> FindPane(const FString& Key)
-{
-	const TSharedPtr<SLevelViewport> Pane = LevelEditor().FindPane(FName(*Key));
-	if (!Pane.IsValid())
-	{
-		throw FDriverError(FString::Printf(TEXT("no pane \"%s\" is open"), *Key));
-	}
-	return Pane.ToSharedRef();
-}
 } // namespace
 
 FDriverError::FDriverError(const FString& Reason) : std::runtime_error(TCHAR_TO_UTF8(*Reason)) {}
 
-void FEditorDriver::RequireStarted() const
-{
-	if (!bIsRunning)
-	{
-		throw FDriverError(TEXT("the editor is not running"));
-	}
-}
-
 void FEditorDriver::Start(const FEngineLoopOptions& Options)
 {
-	if (bIsRunning)
-	{
-		throw FDriverError(TEXT("the editor is running already"));
-	}
 	if (!RedirectMachineFolder(FPaths::Combine(Options.ProjectFolder, TEXT("ProgramData"))))
 	{
 		throw FDriverError(TEXT("the machine-wide folder cannot be redirected"));
 	}
-	FString Error;
-	if (!Loop.Init(Options, Error))
-	{
-		throw FDriverError(Error);
-	}
+	Loop.Init(Options);
 	bIsRunning = true;
 }
 
 UWorld& FEditorDriver::MakeWorld(EWorldType::Type Type)
 {
-	RequireStarted();
 	return *UWorld::CreateWorld(Type);
 }
 
@@ -72,29 +44,27 @@ void FEditorDriver::DestroyWorld(UWorld& World)
 
 SLevelViewport& FEditorDriver::Pane(const FString& Key) const
 {
-	RequireStarted();
-	return *FindPane(Key);
+	const TSharedPtr<SLevelViewport> Found = LevelEditor().FindPane(FName(*Key));
+	if (!Found.IsValid())
+	{
+		throw FDriverError(FString::Printf(TEXT("no pane \"%s\" is open"), *Key));
+	}
+	return *Found;
 }
 
 bool FEditorDriver::HasPane(const FString& Key) const
 {
-	RequireStarted();
 	return LevelEditor().FindPane(FName(*Key)).IsValid();
 }
 
 void FEditorDriver::OpenPane(const FString& Key)
 {
-	if (HasPane(Key))
-	{
-		throw FDriverError(FString::Printf(TEXT("a pane \"%s\" is open already"), *Key));
-	}
 	HostTrace::Line(TEXT("open pane %s"), *Key);
 	LevelEditor().OpenPane(FName(*Key));
 }
 
 void FEditorDriver::SetLayout(const FString& Layout)
 {
-	RequireStarted();
 	HostTrace::Line(TEXT("layout %s"), *Layout);
 	if (!LevelEditor().SetLayout(Layout))
 	{
@@ -104,10 +74,9 @@ void FEditorDriver::SetLayout(const FString& Layout)
 
 void FEditorDriver::ClosePane(const FString& Key)
 {
-	RequireStarted();
-	const TSharedRef<SLevelViewport> Pane = FindPane(Key);
+	SLevelViewport& Closing = Pane(Key);
 	HostTrace::Line(TEXT("close pane %s"), *Key);
-	LevelEditor().ClosePane(Pane);
+	LevelEditor().ClosePane(Closing);
 }
 
 void FEditorDriver::ActivatePane(const FString& Key)
@@ -121,26 +90,40 @@ void FEditorDriver::ResizePane(const FString& Key, FIntPoint Size)
 		->SetFixedViewportSize(static_cast<uint32>(Size.X), static_cast<uint32>(Size.Y));
 }
 
-FPicture FEditorDriver::TakePicture()
+TSharedRef<SLevelViewport> FEditorDriver::ActivePane()
 {
-	RequireStarted();
-	FViewport* Viewport = GEditor->GetActiveViewport();
-	if (!Viewport)
+	const TSharedPtr<IAssetViewport> Active = GEditor->GetActivePane();
+	if (!Active.IsValid())
 	{
 		throw FDriverError(TEXT("no pane is open"));
 	}
-	Viewport->Draw();
-	FPicture Picture{Viewport->GetSizeXY(), {}};
-	if (!Viewport->ReadPixels(Picture.Pixels))
+	return StaticCastSharedPtr<SLevelViewport>(Active).ToSharedRef();
+}
+
+FPicture FEditorDriver::TakePicture()
+{
+	return TakePicture(*ActivePane());
+}
+
+FPicture FEditorDriver::TakePicture(IAssetViewport& Pane)
+{
+	FViewport& Viewport = *Pane.GetActiveViewport();
+	Viewport.Draw();
+	FPicture Picture{Viewport.GetSizeXY(), {}};
+	if (!Viewport.ReadPixels(Picture.Pixels))
 	{
 		throw FDriverError(TEXT("the pane shows nothing"));
 	}
 	return Picture;
 }
 
+const TArray<TSharedPtr<SLevelViewport>>& FEditorDriver::Panes() const
+{
+	return LevelEditor().GetPanes();
+}
+
 UObject& FEditorDriver::CreateAsset(const FString& Label, const FString& Path)
 {
-	RequireStarted();
 	const FString Folder = FPaths::GetPath(Path);
 	FString Offered;
 	for (const FHostNewAssetEntry& Entry : HostContentBrowser::GetNewAssetMenu())
@@ -156,7 +139,6 @@ UObject& FEditorDriver::CreateAsset(const FString& Label, const FString& Path)
 
 void FEditorDriver::OpenAssets(const TArray<FString>& Paths)
 {
-	RequireStarted();
 	TArray<UObject*> Assets;
 	for (const FString& Path : Paths)
 	{
@@ -169,60 +151,39 @@ void FEditorDriver::OpenAssets(const TArray<FString>& Paths)
 	UAssetEditorSubsystem::OpenEditorForAssets(Assets);
 }
 
-void FEditorDriver::Play(const TSharedPtr<IAssetViewport>& Pane)
+void FEditorDriver::PlayInPane()
 {
-	GEditor->RequestPlaySession({Pane});
+	GEditor->RequestPlaySession({ActivePane()});
 	Loop.Tick();
 }
 
-void FEditorDriver::PlayInPane()
+void FEditorDriver::PlayInWindow(EPlayCancellation Cancellation)
 {
-	RequireStarted();
-	const TSharedPtr<IAssetViewport> Pane = LevelEditor().GetFirstActiveViewport();
-	if (!Pane.IsValid())
-	{
-		throw FDriverError(TEXT("no pane is open to play in"));
-	}
-	Play(Pane);
-}
-
-void FEditorDriver::PlayInWindow()
-{
-	RequireStarted();
-	Play(nullptr);
-}
-
-void FEditorDriver::PlayCancelled(EPlayCancellation Cancellation)
-{
-	RequireStarted();
 	GEditor->NextPlayCancellation = Cancellation;
-	Play(nullptr);
+	GEditor->RequestPlaySession({});
+	Loop.Tick();
 }
 
 void FEditorDriver::EndPlay()
 {
-	RequireStarted();
 	GEditor->RequestEndPlayMap();
 	Loop.Tick();
 }
 
 const FMenuDriver& FEditorDriver::Menus()
 {
-	RequireStarted();
 	Loop.Tick();
 	return MenuDriver;
 }
 
 const FWindowDriver& FEditorDriver::Windows()
 {
-	RequireStarted();
 	Loop.Tick();
 	return WindowDriver;
 }
 
 void FEditorDriver::UnloadModule(const FString& Name)
 {
-	RequireStarted();
 	if (!FModuleManager::Get().UnloadModule(FName(*Name)))
 	{
 		throw FDriverError(FString::Printf(TEXT("module \"%s\" is not loaded"), *Name));
@@ -231,7 +192,6 @@ void FEditorDriver::UnloadModule(const FString& Name)
 
 void FEditorDriver::Quit()
 {
-	RequireStarted();
 	HostAssets::SaveDirtyPackages();
 	Loop.Exit();
 	bIsRunning = false;

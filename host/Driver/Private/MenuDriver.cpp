@@ -1,11 +1,9 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "MenuDriver.h"
 
-#include "Editor.h"
 #include "EditorDriver.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Host/MenuRow.h"
-#include "LevelEditor.h"
 #include "SLevelViewport.h"
 
 namespace
@@ -88,13 +86,7 @@ FString TextOf(int32 Index, const FString& Indent)
 
 void FMenuDriver::OpenViewMenu() const
 {
-	const TSharedPtr<IAssetViewport> Pane =
-		FModuleManager::GetModuleChecked<FLevelEditorModule>("LevelEditor").GetFirstActiveViewport();
-	if (!Pane.IsValid())
-	{
-		throw FDriverError(TEXT("no pane is open that has a menu"));
-	}
-	StaticCastSharedPtr<SLevelViewport>(Pane)->OpenViewMenu();
+	FEditorDriver::ActivePane()->OpenViewMenu();
 }
 
 void FMenuDriver::OpenSubMenu(const FString& Entry) const

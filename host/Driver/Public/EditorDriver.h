@@ -2,7 +2,7 @@
 // A user's hands on the editor. Tests and stories act through this and nothing else.
 #pragma once
 
-#include "Engine/EngineTypes.h"
+#include "Editor.h"
 #include "LaunchEngineLoop.h"
 #include "MenuDriver.h"
 #include "Picture.h"
@@ -10,11 +10,7 @@
 
 #include <stdexcept>
 
-class FViewport;
 class SLevelViewport;
-class UObject;
-class UWorld;
-enum class EPlayCancellation;
 
 /** A step that cannot be done as asked, such as closing a pane that is not open. The text is UTF-8. */
 class FDriverError : public std::runtime_error
@@ -23,7 +19,10 @@ public:
 	explicit FDriverError(const FString& Reason);
 };
 
-/** One editor session; a process can have one. Every operation that cannot be done throws FDriverError. */
+/**
+ * One editor session; a process can have one. Everything but the start needs a session that runs; every operation that
+ * cannot be done throws FDriverError.
+ */
 class FEditorDriver
 {
 public:
@@ -52,14 +51,20 @@ public:
 	void ClosePane(const FString& Key);
 	void ActivatePane(const FString& Key);
 
+	/** All panes, in the order of the layout. */
+	const TArray<TSharedPtr<SLevelViewport>>& Panes() const;
+
 	/** The pane of that key. */
 	SLevelViewport& Pane(const FString& Key) const;
+
+	static TSharedRef<SLevelViewport> ActivePane();
 
 	/** In pixels. */
 	void ResizePane(const FString& Key, FIntPoint Size);
 
 	/** The next frame of the active pane, as a user sees it. */
 	FPicture TakePicture();
+	FPicture TakePicture(IAssetViewport& Pane);
 
 	/** Chooses an entry of the content browser's menu for new assets. @param Path such as "/Game/Looks/Night" */
 	UObject& CreateAsset(const FString& Label, const FString& Path);
@@ -70,11 +75,8 @@ public:
 	/** Plays in the active pane. */
 	void PlayInPane();
 
-	/** Plays in a window of its own. */
-	void PlayInWindow();
-
-	/** Plays in a window, but something stops the session. */
-	void PlayCancelled(EPlayCancellation Cancellation);
+	/** Plays in a window of its own, unless something stops the session. */
+	void PlayInWindow(EPlayCancellation Cancellation = EPlayCancellation::None);
 
 	void EndPlay();
 
@@ -91,9 +93,6 @@ public:
 	void Quit();
 
 private:
-	void RequireStarted() const;
-	void Play(const TSharedPtr<class IAssetViewport>& Pane);
-
 	FEngineLoop Loop;
 	FMenuDriver MenuDriver;
 	FWindowDriver WindowDriver;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include <string>
 
 struct FPicture
 {
@@ -15,8 +16,8 @@ struct FPicture
 /** Whether they look the same. */
 bool IsSamePicture(const FPicture& A, const FPicture& B);
 
+/** The bytes of a PNG file; the same for pictures that look the same. */
+std::string EncodePicture(const FPicture& Picture);
+
 /** Writes a PNG file; folders are made. @return false when it cannot be written */
 bool SavePicture(const FPicture& Picture, const FString& File);
-
-/** Reads a PNG file. @return false when there is none, or it cannot be read */
-bool LoadPicture(const FString& File, FPicture& OutPicture);

@@ -4,13 +4,11 @@
 #include "Editor.h"
 #include "Framework/Application/SlateApplication.h"
 #include "Host/Assets.h"
-#include "Host/Culture.h"
 #include "Host/Plugins.h"
 #include "Host/Project.h"
 #include "Host/Trace.h"
 #include "LevelEditor.h"
 #include "Misc/CoreDelegates.h"
-#include "Misc/Paths.h"
 #include "ToolMenus.h"
 
 #include <stdexcept>
@@ -23,10 +21,9 @@ namespace
 	FString Reason = TEXT("an exception of an unknown type");
 	try
 	{
-		const std::exception_ptr Current = std::current_exception();
-		if (Current)
+		if (std::current_exception())
 		{
-			std::rethrow_exception(Current);
+			throw;
 		}
 	}
 	catch (const std::exception& Exception)
@@ -40,32 +37,16 @@ namespace
 }
 } // namespace
 
-bool FEngineLoop::Init(const FEngineLoopOptions& Options, FString& OutError) noexcept
+void FEngineLoop::Init(const FEngineLoopOptions& Options)
 {
 	std::set_terminate(&OnUncaughtException);
 	bIsCommandlet = Options.bIsCommandlet;
 	HostProject::SetFolder(Options.ProjectFolder);
-	HostCulture::Set(Options.Culture);
+	FInternationalization::Get().SetCurrentCulture(Options.Culture);
 	HostScene::Show(Options.Scene);
 	HostAssets::Scan();
-	try
-	{
-		Start(Options.PluginFolders);
-		return true;
-	}
-	catch (const std::runtime_error& Error)
-	{
-		OutError = UTF8_TO_TCHAR(Error.what());
-		return false;
-	}
-}
-
-void FEngineLoop::Start(const TArray<FString>& PluginFolders)
-{
-	for (const FString& Folder : PluginFolders)
-	{
-		HostPlugins::Discover(Folder);
-	}
+	HostPlugins::Discover(Options.PluginFolders);
+	const auto LoadPhases = [this](const TArray<FString>& Phases) { HostPlugins::LoadModules(Phases, bIsCommandlet); };
 	LoadPhases(
 		{TEXT("EarliestPossible"), TEXT("PostConfigInit"), TEXT("PostSplashScreen"), TEXT("PreEarlyLoadingScreen")});
 	HostObjects::Init();
@@ -83,14 +64,6 @@ void FEngineLoop::Start(const TArray<FString>& PluginFolders)
 	if (!bIsCommandlet)
 	{
 		FCoreDelegates::OnFEngineLoopInitComplete.Broadcast();
-	}
-}
-
-void FEngineLoop::LoadPhases(std::initializer_list<const TCHAR*> Phases)
-{
-	for (const TCHAR* Phase : Phases)
-	{
-		HostPlugins::LoadModules(Phase, bIsCommandlet);
 	}
 }
 

@@ -26,14 +26,12 @@ struct FEngineLoopOptions
 class FEngineLoop
 {
 public:
-	/** @return false with one line in OutError (file, place, reason); the process should then end */
-	LAUNCH_API bool Init(const FEngineLoopOptions& Options, FString& OutError) noexcept;
+	/** What is wrong with a plug-in is thrown as std::runtime_error with one line; the process should then end. */
+	LAUNCH_API void Init(const FEngineLoopOptions& Options);
 	LAUNCH_API void Tick() noexcept;
 	LAUNCH_API void Exit() noexcept;
 
 private:
-	void Start(const TArray<FString>& PluginFolders);
-	void LoadPhases(std::initializer_list<const TCHAR*> Phases);
 	void MakeEditor() noexcept;
 
 	bool bIsCommandlet = false;

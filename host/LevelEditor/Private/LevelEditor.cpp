@@ -1,8 +1,10 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "LevelEditor.h"
 
+#include "Editor.h"
 #include "SLevelViewport.h"
 #include "ToolMenus.h"
+#include <map>
 
 IMPLEMENT_HOST_MODULE(FLevelEditorModule, LevelEditor)
 
@@ -20,14 +22,7 @@ void FLevelEditorModule::StartupModule()
 
 TSharedPtr<IAssetViewport> FLevelEditorModule::GetFirstActiveViewport() const
 {
-	for (const TSharedPtr<SLevelViewport>& Pane : Panes)
-	{
-		if (&Pane->GetLevelViewportClient() == GCurrentLevelEditingViewportClient)
-		{
-			return Pane;
-		}
-	}
-	return Panes.IsEmpty() ? nullptr : TSharedPtr<IAssetViewport>(Panes[0]);
+	return GEditor->GetActivePane();
 }
 
 TSharedRef<SLevelViewport> FLevelEditorModule::OpenPane(FName ConfigKey)
@@ -41,27 +36,21 @@ TSharedRef<SLevelViewport> FLevelEditorModule::OpenPane(FName ConfigKey)
 
 bool FLevelEditorModule::SetLayout(const FString& Layout)
 {
-	static const TMap<FString, int32> PaneCounts = []
-	{
-		TMap<FString, int32> Counts;
-		Counts.Add(TEXT("OnePane"), 1);
-		Counts.Add(TEXT("TwoPanesHoriz"), 2);
-		Counts.Add(TEXT("FourPanes2x2"), 4);
-		return Counts;
-	}();
-	const int32* Count = PaneCounts.Find(Layout);
-	if (!Count)
+	const std::map<FString, int32> PaneCounts{
+		{TEXT("OnePane"), 1}, {TEXT("TwoPanesHoriz"), 2}, {TEXT("FourPanes2x2"), 4}};
+	const auto Found = PaneCounts.find(Layout);
+	if (Found == PaneCounts.end())
 	{
 		return false;
 	}
 	const int32 OldCount = Panes.Num();
-	for (int32 Index = 0; Index < *Count; ++Index)
+	for (int32 Index = 0; Index < Found->second; ++Index)
 	{
 		OpenPane(FName(*FString::Printf(TEXT("%s.Viewport 1.Viewport%d"), *Layout, Index)));
 	}
 	for (int32 Index = 0; Index < OldCount; ++Index)
 	{
-		ClosePane(Panes[0].ToSharedRef());
+		ClosePane(*Panes[0]);
 	}
 	return true;
 }
@@ -73,16 +62,17 @@ TSharedPtr<SLevelViewport> FLevelEditorModule::FindPane(FName ConfigKey) const
 	return Found ? *Found : nullptr;
 }
 
-void FLevelEditorModule::ClosePane(TSharedRef<SLevelViewport> Pane)
+void FLevelEditorModule::ClosePane(SLevelViewport& Pane)
 {
 	// Out of the list before it dies: its events ask for the active viewport.
-	Panes.Remove(Pane);
+	const TSharedRef<SWidget> Closing = Pane.AsShared();
+	Panes.Remove(StaticCastSharedRef<SLevelViewport>(Closing));
 }
 
 void FLevelEditorModule::CloseAllPanes()
 {
 	while (!Panes.IsEmpty())
 	{
-		ClosePane(Panes[0].ToSharedRef());
+		ClosePane(*Panes[0]);
 	}
 }

@@ -1,8 +1,16 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "SLevelViewport.h"
 
+#include "Editor.h"
 #include "Framework/Application/SlateApplication.h"
 #include "ToolMenus.h"
+
+// Here, where the pane's type is known.
+FLevelEditorViewportClient::FLevelEditorViewportClient(const TSharedPtr<SLevelViewport>& InLevelViewport)
+	: FEditorViewportClient(InLevelViewport)
+{
+	GEditor->AddLevelViewportClients(this);
+}
 
 void SLevelViewport::Construct(const FAssetEditorViewportConstructionArgs& InConstructionArgs)
 {
@@ -20,19 +28,4 @@ void SLevelViewport::OpenViewMenu()
 TSharedRef<FEditorViewportClient> SLevelViewport::MakeEditorViewportClient()
 {
 	return MakeShared<FLevelEditorViewportClient>(StaticCastSharedRef<SLevelViewport>(AsShared()));
-}
-
-FViewport* SLevelViewport::GetActiveViewport()
-{
-	return PlayViewport.IsValid() ? PlayViewport.Get() : SceneViewport.Get();
-}
-
-void SLevelViewport::StartPlayInEditorSession(const TSharedPtr<FSceneViewport>& InPlayViewport)
-{
-	PlayViewport = InPlayViewport;
-}
-
-void SLevelViewport::EndPlayInEditorSession()
-{
-	PlayViewport.Reset();
 }

@@ -26,11 +26,14 @@ public:
 	 */
 	bool SetLayout(const FString& Layout);
 
+	/** In the order of their opening. */
+	const TArray<TSharedPtr<SLevelViewport>>& GetPanes() const { return Panes; }
+
 	/** Null when no pane has the key. */
 	TSharedPtr<SLevelViewport> FindPane(FName ConfigKey) const;
 
 	/** The pane dies with the last reference to it. */
-	void ClosePane(TSharedRef<SLevelViewport> Pane);
+	void ClosePane(SLevelViewport& Pane);
 
 	/** Closes the panes in the order of their opening. */
 	void CloseAllPanes();

@@ -27,9 +27,15 @@ public:
 		return static_cast<FLevelEditorViewportClient&>(*Client);
 	}
 
-	FViewport* GetActiveViewport() override;
-	void StartPlayInEditorSession(const TSharedPtr<FSceneViewport>& InPlayViewport) override;
-	void EndPlayInEditorSession() override;
+	FViewport* GetActiveViewport() override
+	{
+		return PlayViewport.IsValid() ? PlayViewport.Get() : SceneViewport.Get();
+	}
+	void StartPlayInEditorSession(const TSharedPtr<FSceneViewport>& InPlayViewport) override
+	{
+		PlayViewport = InPlayViewport;
+	}
+	void EndPlayInEditorSession() override { PlayViewport.Reset(); }
 
 protected:
 	TSharedRef<FEditorViewportClient> MakeEditorViewportClient() override;

@@ -15,19 +15,14 @@ namespace
 {
 struct FModuleDescriptor
 {
+	/** Path of the .uplugin file. */
+	FString File;
 	FString Name;
 	FString Type;
 	FString LoadingPhase;
 };
 
-struct FPluginDescriptor
-{
-	/** Path of the .uplugin file. */
-	FString File;
-	TArray<FModuleDescriptor> Modules;
-};
-
-TArray<FPluginDescriptor> Plugins;
+TArray<FModuleDescriptor> Modules;
 
 void Require(bool bIsTrue, const FString& File, const std::string& Reason)
 {
@@ -54,18 +49,6 @@ FString Member(const rapidjson::Value& Object, const char* Name, const FString& 
 {
 	Require(Object.HasMember(Name) && Object[Name].IsString(), File, std::string("a module without \"") + Name + "\"");
 	return UTF8_TO_TCHAR(Object[Name].GetString());
-}
-
-FPluginDescriptor ReadDescriptor(const FString& File)
-{
-	const rapidjson::Document Document = ReadJson(File, rapidjson::kArrayType);
-	FPluginDescriptor Descriptor{File, {}};
-	for (const rapidjson::Value& Entry : Document["Modules"].GetArray())
-	{
-		Descriptor.Modules.Add(
-			{Member(Entry, "Name", File), Member(Entry, "Type", File), Member(Entry, "LoadingPhase", File)});
-	}
-	return Descriptor;
 }
 
 /** Tells the module manager of the libraries in the list that lies beside them. */
@@ -103,6 +86,18 @@ std::set<std::filesystem::path> FindDescriptors(const FString& Folder)
 	return Found;
 }
 
+/** Notes the plug-in's modules. */
+void ReadDescriptor(const FString& File)
+{
+	const rapidjson::Document Document = ReadJson(File, rapidjson::kArrayType);
+	for (const rapidjson::Value& Entry : Document["Modules"].GetArray())
+	{
+		Modules.Add(
+			{File, Member(Entry, "Name", File), Member(Entry, "Type", File), Member(Entry, "LoadingPhase", File)});
+	}
+	ReadModuleList(FPaths::Combine(FPaths::GetPath(File), TEXT("Binaries/Win64")));
+}
+
 bool LoadsHere(const FModuleDescriptor& Module, const FString& Phase, bool bIsCommandlet)
 {
 	static const TArray<FString> Types{TEXT("Runtime"), TEXT("Editor"), TEXT("EditorNoCommandlet"),
@@ -113,28 +108,27 @@ bool LoadsHere(const FModuleDescriptor& Module, const FString& Phase, bool bIsCo
 }
 } // namespace
 
-void HostPlugins::Discover(const FString& PluginsFolder)
+void HostPlugins::Discover(const TArray<FString>& Folders)
 {
-	for (const std::filesystem::path& File : FindDescriptors(PluginsFolder))
+	for (const FString& Folder : Folders)
 	{
-		const FPluginDescriptor& Descriptor = Plugins.Emplace_GetRef(ReadDescriptor(File.generic_wstring().c_str()));
-		if (!Descriptor.Modules.IsEmpty())
+		for (const std::filesystem::path& File : FindDescriptors(Folder))
 		{
-			ReadModuleList(FPaths::Combine(FPaths::GetPath(Descriptor.File), TEXT("Binaries/Win64")));
+			ReadDescriptor(File.generic_wstring().c_str());
 		}
 	}
 }
 
-void HostPlugins::LoadModules(const FString& Phase, bool bIsCommandlet)
+void HostPlugins::LoadModules(const TArray<FString>& Phases, bool bIsCommandlet)
 {
-	for (const FPluginDescriptor& Plugin : Plugins)
+	for (const FString& Phase : Phases)
 	{
-		for (const FModuleDescriptor& Module : Plugin.Modules)
+		for (const FModuleDescriptor& Module : Modules)
 		{
 			FString Reason;
 			const bool bIsFine = !LoadsHere(Module, Phase, bIsCommandlet) ||
 								 FModuleManager::Get().TryLoadModule(FName(Module.Name), Reason);
-			Require(bIsFine, Plugin.File, TCHAR_TO_UTF8(*Reason));
+			Require(bIsFine, Module.File, TCHAR_TO_UTF8(*Reason));
 		}
 	}
 }
@@ -148,7 +142,7 @@ IPluginManager& IPluginManager::Get()
 TSharedPtr<IPlugin> IPluginManager::FindPlugin(const ANSICHAR* Name)
 {
 	const FString File = FString::Printf(TEXT("/%s.uplugin"), UTF8_TO_TCHAR(Name));
-	const FPluginDescriptor* Found = Plugins.FindByPredicate(
-		[&File](const FPluginDescriptor& Descriptor) { return Descriptor.File.EndsWith(File); });
+	const FModuleDescriptor* Found =
+		Modules.FindByPredicate([&File](const FModuleDescriptor& Module) { return Module.File.EndsWith(File); });
 	return Found ? MakeShared<IPlugin>(FPaths::GetPath(Found->File)) : TSharedPtr<IPlugin>();
 }

@@ -3,26 +3,16 @@
 
 #include "CoreMinimal.h"
 
-/** Whoever adds to menus. Equal only if both the value and its kind are equal. */
+/** Whoever adds to menus, by its address. */
 struct FToolMenuOwner
 {
 	FToolMenuOwner() = default;
-	FToolMenuOwner(void* InPointer)
-		: Value(static_cast<int64>(reinterpret_cast<intptr_t>(InPointer))), Kind(EKind::Pointer)
-	{
-	}
+	FToolMenuOwner(void* InPointer) : Pointer(InPointer) {}
 
-	bool IsSet() const { return Value != 0; }
+	bool IsSet() const { return Pointer != nullptr; }
 
 	bool operator==(const FToolMenuOwner&) const = default;
 
 private:
-	enum class EKind : uint8
-	{
-		None,
-		Pointer,
-	};
-
-	int64 Value = 0;
-	EKind Kind = EKind::None;
+	void* Pointer = nullptr;
 };

@@ -28,22 +28,22 @@ void OpenTogether(const TArray<UObject*>& Assets)
 void UAssetEditorSubsystem::OpenEditorForAssets(const TArray<UObject*>& Assets)
 {
 	TArray<UObject*> Opened;
-	bool bOneClass = true;
 	for (UObject* Asset : Assets)
 	{
 		if (Asset && !Opened.Contains(Asset))
 		{
 			Opened.Add(Asset);
-			bOneClass = bOneClass && Asset->GetClass() == Opened[0]->GetClass();
 		}
 	}
-	if (bOneClass && !Opened.IsEmpty())
+	if (Opened.ContainsByPredicate([&](const UObject* Asset) { return Asset->GetClass() != Opened[0]->GetClass(); }))
+	{
+		for (UObject* Asset : Opened)
+		{
+			OpenTogether({Asset});
+		}
+	}
+	else if (!Opened.IsEmpty())
 	{
 		OpenTogether(Opened);
-		return;
-	}
-	for (UObject* Asset : Opened)
-	{
-		OpenTogether({Asset});
 	}
 }

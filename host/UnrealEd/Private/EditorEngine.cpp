@@ -1,40 +1,9 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Editor.h"
 #include "IAssetViewport.h"
-#include "LevelEditor.h"
 #include "LevelEditorViewport.h"
-#include "Modules/ModuleManager.h"
 
 UEditorEngine* GEditor = nullptr;
-
-void UEditorEngine::AddViewportClients(FEditorViewportClient* ViewportClient)
-{
-	AllViewportClients.Add(ViewportClient);
-	ViewportClientListChangedEvent.Broadcast();
-}
-
-void UEditorEngine::RemoveViewportClients(FEditorViewportClient* ViewportClient)
-{
-	AllViewportClients.Remove(ViewportClient);
-	ViewportClientListChangedEvent.Broadcast();
-}
-
-void UEditorEngine::AddLevelViewportClients(FLevelEditorViewportClient* ViewportClient)
-{
-	LevelViewportClients.Add(ViewportClient);
-	LevelViewportClientListChangedEvent.Broadcast();
-}
-
-void UEditorEngine::RemoveLevelViewportClients(FLevelEditorViewportClient* ViewportClient)
-{
-	LevelViewportClients.Remove(ViewportClient);
-	LevelViewportClientListChangedEvent.Broadcast();
-}
-
-void UEditorEngine::RedrawAllViewports(bool)
-{
-	bRedrawRequested = true;
-}
 
 void UEditorEngine::Tick()
 {
@@ -52,14 +21,19 @@ void UEditorEngine::Tick()
 	}
 }
 
-FViewport* UEditorEngine::GetActiveViewport()
+TSharedPtr<IAssetViewport> UEditorEngine::GetActivePane() const
 {
-	const FLevelEditorModule& LevelEditor = FModuleManager::GetModuleChecked<FLevelEditorModule>("LevelEditor");
-	const TSharedPtr<IAssetViewport> Pane = LevelEditor.GetFirstActiveViewport();
-	return Pane.IsValid() ? Pane->GetActiveViewport() : nullptr;
+	if (LevelViewportClients.IsEmpty())
+	{
+		return nullptr;
+	}
+	const FLevelEditorViewportClient* Current = GCurrentLevelEditingViewportClient;
+	return std::dynamic_pointer_cast<IAssetViewport>(
+		(Current ? Current : LevelViewportClients[0])->GetEditorViewportWidget());
 }
 
-FViewport* UEditorEngine::GetPIEViewport()
+FViewport* UEditorEngine::GetActiveViewport()
 {
-	return GameViewport ? GameViewport->Viewport : nullptr;
+	const TSharedPtr<IAssetViewport> Pane = GetActivePane();
+	return Pane.IsValid() ? Pane->GetActiveViewport() : nullptr;
 }

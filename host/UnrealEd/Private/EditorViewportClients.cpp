@@ -2,7 +2,6 @@
 #include "Editor.h"
 #include "Host/SceneRenderer.h"
 #include "LevelEditorViewport.h"
-#include "SLevelViewport.h"
 
 FLevelEditorViewportClient* GCurrentLevelEditingViewportClient = nullptr;
 
@@ -21,12 +20,6 @@ FEditorViewportClient::~FEditorViewportClient()
 void FEditorViewportClient::Draw(FViewport* InViewport, FCanvas* Canvas)
 {
 	HostScene::Draw(*InViewport, *Canvas);
-}
-
-FLevelEditorViewportClient::FLevelEditorViewportClient(const TSharedPtr<SLevelViewport>& InLevelViewport)
-	: FEditorViewportClient(InLevelViewport)
-{
-	GEditor->AddLevelViewportClients(this);
 }
 
 FLevelEditorViewportClient::~FLevelEditorViewportClient()

@@ -24,11 +24,6 @@ void UEditorEngine::RequestPlaySession(const FRequestPlaySessionParams& InParams
 	PlaySessionRequest = MakeUnique<FRequestPlaySessionParams>(InParams);
 }
 
-void UEditorEngine::RequestEndPlayMap()
-{
-	bEndPlayRequested = true;
-}
-
 void UEditorEngine::TickPlaySession()
 {
 	if (bEndPlayRequested)
@@ -45,8 +40,7 @@ void UEditorEngine::TickPlaySession()
 
 void UEditorEngine::StartPlaySession(const FRequestPlaySessionParams& Params)
 {
-	const EPlayCancellation Cancellation = NextPlayCancellation;
-	NextPlayCancellation = EPlayCancellation::None;
+	const EPlayCancellation Cancellation = std::exchange(NextPlayCancellation, EPlayCancellation::None);
 	if (Cancellation == EPlayCancellation::MapSaveRefused)
 	{
 		FEditorDelegates::CancelPIE.Broadcast();

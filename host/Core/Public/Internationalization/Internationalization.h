@@ -15,7 +15,13 @@ public:
 	CORE_API static FInternationalization& Get();
 
 	/** Fatal when there is none. */
-	CORE_API FCultureRef GetCurrentCulture() const;
+	FCultureRef GetCurrentCulture() const { return Current.ToSharedRef(); }
+
+	/** @param InCultureName such as "en" or "fr-CA"; empty leaves the process without a culture, as before its start */
+	CORE_API void SetCurrentCulture(const FString& InCultureName);
+
+private:
+	TSharedPtr<FCulture> Current;
 };
 
 /** A text in English; the host has no translations of it. LOCTEXT_NAMESPACE must be defined. */

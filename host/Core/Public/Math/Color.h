@@ -23,8 +23,10 @@ struct FColor
 
 	friend bool operator==(const FColor&, const FColor&) = default;
 
-	static CORE_API const FColor White;
+	static const FColor White;
 };
+
+inline constexpr FColor FColor::White(255, 255, 255);
 
 static_assert(sizeof(FColor) == 4);
 

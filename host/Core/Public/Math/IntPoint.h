@@ -8,8 +8,5 @@ struct FIntPoint
 	int32 X = 0;
 	int32 Y = 0;
 
-	constexpr FIntPoint() = default;
-	constexpr FIntPoint(int32 InX, int32 InY) : X(InX), Y(InY) {}
-
 	friend bool operator==(const FIntPoint&, const FIntPoint&) = default;
 };

@@ -8,8 +8,5 @@ struct FVector4
 	double Z = 0.0;
 	double W = 0.0;
 
-	constexpr FVector4() = default;
-	constexpr FVector4(double InX, double InY, double InZ, double InW) : X(InX), Y(InY), Z(InZ), W(InW) {}
-
 	friend bool operator==(const FVector4&, const FVector4&) = default;
 };

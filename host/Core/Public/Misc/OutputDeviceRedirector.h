@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Containers/Array.h"
-#include "HAL/CriticalSection.h"
 #include "Misc/OutputDevice.h"
+#include "Misc/ScopeLock.h"
 
 /** Passes every line to all its devices. Any thread; a device may log, but not add or remove devices, meanwhile. */
 class FOutputDeviceRedirector final : public FOutputDevice
@@ -13,10 +13,26 @@ public:
 	CORE_API static FOutputDeviceRedirector* Get();
 
 	/** The device stays the caller's and must be removed before it dies. */
-	CORE_API void AddOutputDevice(FOutputDevice* OutputDevice);
-	CORE_API void RemoveOutputDevice(FOutputDevice* OutputDevice);
+	void AddOutputDevice(FOutputDevice* OutputDevice)
+	{
+		const FScopeLock Scope(&Lock);
+		Devices.Add(OutputDevice);
+	}
 
-	CORE_API void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override;
+	void RemoveOutputDevice(FOutputDevice* OutputDevice)
+	{
+		const FScopeLock Scope(&Lock);
+		Devices.Remove(OutputDevice);
+	}
+
+	void Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category) override
+	{
+		const FScopeLock Scope(&Lock);
+		for (FOutputDevice* Device : Devices)
+		{
+			Device->Serialize(V, Verbosity, Category);
+		}
+	}
 
 private:
 	FOutputDeviceRedirector() = default;

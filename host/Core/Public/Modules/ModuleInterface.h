@@ -16,8 +16,3 @@ public:
 	/** Called once, right before the module object is destroyed. */
 	virtual void ShutdownModule() {}
 };
-
-/** A module without behaviour of its own. */
-class FDefaultModuleImpl : public IModuleInterface
-{
-};

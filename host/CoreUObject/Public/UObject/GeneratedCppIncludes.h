@@ -47,38 +47,27 @@ struct FRegisterCompiledInInfo
 	COREUOBJECT_API FRegisterCompiledInInfo(std::initializer_list<FMake> Makers);
 };
 
-#define HOST_DEFINE_STRUCT(Name)                                                                                       \
-	UScriptStruct* Z_Construct_UScriptStruct_##Name()                                                                  \
+#define HOST_DEFINE_TYPE(Kind, Name, Member, Function)                                                                 \
+	Kind* Z_Construct_##Kind##_##Name()                                                                                \
 	{                                                                                                                  \
-		static UScriptStruct* const Type = Z_Construct_UScriptStruct_##Name##_Statics::Make();                         \
+		static Kind* const Type = Z_Construct_##Kind##_##Name##_Statics::Make();                                       \
 		return Type;                                                                                                   \
 	}                                                                                                                  \
-	UScriptStruct* Name::StaticStruct()                                                                                \
+	Kind* Name::Member()                                                                                               \
 	{                                                                                                                  \
-		return Z_Construct_UScriptStruct_##Name();                                                                     \
+		return Z_Construct_##Kind##_##Name();                                                                          \
 	}                                                                                                                  \
 	template <>                                                                                                        \
-	UScriptStruct* StaticStruct<Name>()                                                                                \
+	Kind* Function<Name>()                                                                                             \
 	{                                                                                                                  \
-		return Z_Construct_UScriptStruct_##Name();                                                                     \
+		return Z_Construct_##Kind##_##Name();                                                                          \
 	}
 
+#define HOST_DEFINE_STRUCT(Name) HOST_DEFINE_TYPE(UScriptStruct, Name, StaticStruct, StaticStruct)
+
 #define HOST_DEFINE_CLASS(Name)                                                                                        \
-	UClass* Z_Construct_UClass_##Name()                                                                                \
-	{                                                                                                                  \
-		static UClass* const Type = Z_Construct_UClass_##Name##_Statics::Make();                                       \
-		return Type;                                                                                                   \
-	}                                                                                                                  \
+	HOST_DEFINE_TYPE(UClass, Name, GetPrivateStaticClass, StaticClass)                                                 \
 	UClass* Z_Construct_UClass_##Name##_NoRegister()                                                                   \
-	{                                                                                                                  \
-		return Z_Construct_UClass_##Name();                                                                            \
-	}                                                                                                                  \
-	UClass* Name::GetPrivateStaticClass()                                                                              \
-	{                                                                                                                  \
-		return Z_Construct_UClass_##Name();                                                                            \
-	}                                                                                                                  \
-	template <>                                                                                                        \
-	UClass* StaticClass<Name>()                                                                                        \
 	{                                                                                                                  \
 		return Z_Construct_UClass_##Name();                                                                            \
 	}

@@ -8,14 +8,14 @@
 namespace HostPlugins
 {
 /**
- * Reads the descriptor and the module list of every plug-in directly below the folder, and tells the module manager
+ * Reads the descriptor and the module list of every plug-in directly below the folders, and tells the module manager
  * where the libraries lie.
  */
-PROJECTS_API void Discover(const FString& PluginsFolder);
+PROJECTS_API void Discover(const TArray<FString>& Folders);
 
 /**
- * Loads the modules that the descriptors put into the phase, in the order of the descriptor.
+ * Loads the modules that the descriptors put into the phases, phase by phase, in the order of the descriptor.
  * @param bIsCommandlet leaves out modules that do not load in commandlets
  */
-PROJECTS_API void LoadModules(const FString& Phase, bool bIsCommandlet);
+PROJECTS_API void LoadModules(const TArray<FString>& Phases, bool bIsCommandlet);
 } // namespace HostPlugins

@@ -20,29 +20,48 @@ public:
 	const TArray<FLevelEditorViewportClient*>& GetLevelViewportClients() const { return LevelViewportClients; }
 
 	/** The list changes first, then the event is sent; so with the three below. */
-	UNREALED_API void AddViewportClients(FEditorViewportClient* ViewportClient);
-	UNREALED_API void RemoveViewportClients(FEditorViewportClient* ViewportClient);
-	UNREALED_API void AddLevelViewportClients(FLevelEditorViewportClient* ViewportClient);
-	UNREALED_API void RemoveLevelViewportClients(FLevelEditorViewportClient* ViewportClient);
+	void AddViewportClients(FEditorViewportClient* ViewportClient)
+	{
+		AllViewportClients.Add(ViewportClient);
+		ViewportClientListChangedEvent.Broadcast();
+	}
+	void RemoveViewportClients(FEditorViewportClient* ViewportClient)
+	{
+		AllViewportClients.Remove(ViewportClient);
+		ViewportClientListChangedEvent.Broadcast();
+	}
+	void AddLevelViewportClients(FLevelEditorViewportClient* ViewportClient)
+	{
+		LevelViewportClients.Add(ViewportClient);
+		LevelViewportClientListChangedEvent.Broadcast();
+	}
+	void RemoveLevelViewportClients(FLevelEditorViewportClient* ViewportClient)
+	{
+		LevelViewportClients.Remove(ViewportClient);
+		LevelViewportClientListChangedEvent.Broadcast();
+	}
 
 	FViewportClientListChangedEvent& OnViewportClientListChanged() { return ViewportClientListChangedEvent; }
 
 	FViewportClientListChangedEvent& OnLevelViewportClientListChanged() { return LevelViewportClientListChangedEvent; }
 
-	/** The viewport of the current pane, else of the first one, else null. The play viewport while a pane plays. */
+	/** For the level editor: the pane of the current client, else the first one, else null. */
+	UNREALED_API TSharedPtr<IAssetViewport> GetActivePane() const;
+
+	/** The viewport of that pane, or null. The play viewport while the pane plays. */
 	UNREALED_API FViewport* GetActiveViewport();
 
 	/** The viewport that is played in, or null. */
-	UNREALED_API FViewport* GetPIEViewport();
+	FViewport* GetPIEViewport() { return GameViewport ? GameViewport->Viewport : nullptr; }
 
 	/** Every viewport of the editor is drawn anew in the next tick. */
-	UNREALED_API void RedrawAllViewports(bool bInvalidateHitProxies = true);
+	void RedrawAllViewports(bool = true) { bRedrawRequested = true; }
 
 	/** Asks for a session; it begins at the next tick. */
 	UNREALED_API void RequestPlaySession(const FRequestPlaySessionParams& InParams);
 
 	/** Ends the session at the next tick. */
-	UNREALED_API void RequestEndPlayMap();
+	void RequestEndPlayMap() { bEndPlayRequested = true; }
 
 	UNREALED_API void Tick();
 

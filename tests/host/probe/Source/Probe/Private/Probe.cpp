@@ -6,7 +6,6 @@
 #include "LevelEditorViewport.h"
 #include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
-#include "ProbeMenu.h"
 #include "SLevelViewport.h"
 #include "ToolMenus.h"
 #include "UObject/UObjectGlobals.h"
@@ -44,7 +43,9 @@ public:
 		Say(TEXT("self loaded %s, setting entries %d"), YesNo(FModuleManager::Get().IsModuleLoaded("Probe")),
 			GetDefault<UProbeSettings>()->Entries.Num());
 		FModuleManager::Get().LoadModuleChecked("AssetTools");
-		RegisterProbeMenu(*this);
+		const FToolMenuOwnerScoped Owner(this);
+		UToolMenu* Menu = UToolMenus::Get()->ExtendMenu(SLevelViewport::ViewMenuName);
+		Menu->AddSection("Probe").AddMenuEntry("Probe", FText(), FText(), FSlateIcon(), FUIAction());
 		FWorldDelegates::OnPreWorldInitialization.AddRaw(this, &FProbeModule::OnWorld);
 		FCoreDelegates::OnFEngineLoopInitComplete.AddRaw(this, &FProbeModule::OnEngineLoop);
 		FCoreDelegates::OnPreExit.AddRaw(this, &FProbeModule::OnPreExit);

@@ -50,9 +50,4 @@ public:
 	/** Not in the file. */
 	UPROPERTY(EditAnywhere, Category = "Probe")
 	float Forgotten = 1.0f;
-
-	void PostEditChangeProperty(FPropertyChangedEvent&) override { Told = Forgotten; }
-
-	/** The value at the last change by a user. */
-	float Told = 0.0f;
 };
