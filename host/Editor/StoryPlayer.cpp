@@ -138,6 +138,19 @@ public:
 		}
 	}
 
+	void Import(const FString& File, const FString& Folder)
+	{
+		if (!Driver.ImportFiles({InProject(*File).generic_wstring().c_str()}, Folder)[0])
+		{
+			throw FDriverError(File + TEXT(" is not imported"));
+		}
+	}
+
+	void Export(const FString& Asset, const FString& File)
+	{
+		Driver.Export(Asset, InProject(*File).generic_wstring().c_str());
+	}
+
 	FEditorDriver Driver;
 
 private:
@@ -206,6 +219,8 @@ const std::vector<FVerb> Verbs{
 	{"click", 1, [](P& Player, A& Args) { Player.Driver.Menus().Click(Args[0]); }},
 	{"create asset", 2, [](P& Player, A& Args) { Player.Driver.CreateAsset(Args[0], Args[1]); }},
 	{"open assets", 1, [](P& Player, A& Args) { Player.Driver.OpenAssets(Args); }, true},
+	{"import", 2, [](P& Player, A& Args) { Player.Import(Args[0], Args[1]); }},
+	{"export", 2, [](P& Player, A& Args) { Player.Export(Args[0], Args[1]); }},
 	{"edit", 3, [](P& Player, A& Args) { Player.Driver.Windows().EditProperty(Args[0], Args[1], Args[2]); }},
 	{"slide", 2,
 		[](P& Player, A& Args) { Player.Driver.Windows().MoveSlider(Args[0], std::wcstof(*Args[1], nullptr)); }},

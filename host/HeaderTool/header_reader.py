@@ -11,9 +11,9 @@ TOKEN = re.compile(r"""
     | "(?:\\.|[^"\\\n])*" | '(?:\\.|[^'\\\n])*'
     | \w+ | :: | -> | \S
 """, re.VERBOSE | re.MULTILINE | re.DOTALL)
-PROPERTY_SPECIFIERS = {"config", "editanywhere", "category", "meta"}
+PROPERTY_SPECIFIERS = {"config", "editanywhere", "visibleanywhere", "transient", "instanced", "category", "meta"}
 UNSUPPORTED = re.compile(r"U(CLASS|STRUCT|PROPERTY|FUNCTION|ENUM|INTERFACE|DELEGATE)|GENERATED_\w*BODY|RIGVM_METHOD")
-PLAIN_TYPES = {"bool", "float", "FName", "FVector4"}
+PLAIN_TYPES = {"bool", "float", "uint8", "FName", "FString", "FVector4"}
 
 Token = namedtuple("Token", "text line")
 # The word before a type's name, the name's first letter, the C++ class of the type's own object.

@@ -15,7 +15,11 @@ from pathlib import Path
 
 from header_reader import CLASS, HeaderError, Reader
 
-PROPERTY_FLAGS = {"config": "CPF_Config", "editanywhere": "CPF_Edit"}
+PROPERTY_FLAGS = {"config": "CPF_Config", "editanywhere": "CPF_Edit", "transient": "CPF_Transient"}
+
+# The engine's classes that others may name, and what their properties need.
+ENGINE_CLASSES = {"UAssetImportData": "EditorFramework/AssetImportData.h", "UExporter": "Exporters/Exporter.h",
+                  "UFactory": "Factories/Factory.h", "UObject": "UObject/Object.h", "UTexture2D": "Engine/Texture2D.h"}
 
 
 def check(reader, owner, known):
@@ -69,7 +73,9 @@ def type_source(module, owner):
 def source_file(module, file_id, header, types):
     include = re.sub(r"^(Public|Private|Classes)/", "", header)
     lines = ["// Written by the header tool; changes are lost.", '#include "UObject/GeneratedCppIncludes.h"',
-             f'#include "{include}"', "#include <cstddef>", ""]
+             f'#include "{include}"', "#include <cstddef>"]
+    named = {word for owner in types for item in owner.properties for word in re.findall(r"U\w+", item.type)}
+    lines += [f'#include "{ENGINE_CLASSES[name]}"' for name in sorted(named & ENGINE_CLASSES.keys())] + [""]
     for owner in types:
         lines += type_source(module, owner)
     makers = ", ".join(f"[]() -> UStruct* {{ return Z_Construct_{o.kind.type}_{o.name}(); }}" for o in types)
@@ -83,7 +89,7 @@ def write(path, text):
 
 
 def run(arguments):
-    module, out, known, readers = arguments.module, Path(arguments.out), {"UFactory", "UObject"}, []
+    module, out, known, readers = arguments.module, Path(arguments.out), set(ENGINE_CLASSES), []
     for file in arguments.known:
         known.update(json.loads(Path(file).read_text(encoding="utf-8")))
     out.mkdir(parents=True, exist_ok=True)

@@ -24,7 +24,8 @@ TEST_F(Lifecycle, StartAndNormalExitRunInTheirOrder)
 						 "start module AssetTools", "register asset type TonalithObject",
 						 "bind FCoreDelegates::OnFEngineLoopInitComplete", "register style TonalithStyle",
 						 "start module ToolMenus", "extend menu LevelEditor.LevelViewportToolBar.View",
-						 "add sub-menu TNLDisplaySubMenu", "make the editor engine", "start module PropertyEditor",
+						 "add sub-menu TNLDisplaySubMenu", "load library TonalithLookFiles",
+						 "start module TonalithLookFiles", "make the editor engine", "start module PropertyEditor",
 						 "start module LevelEditor", "register menu LevelEditor.LevelViewportToolBar.View",
 						 "broadcast FWorldDelegates::OnPreWorldInitialization", "bind UWorld::OnFeatureLevelChanged",
 						 "broadcast FCoreDelegates::OnPostEngineInit", "register view extension",
@@ -34,14 +35,14 @@ TEST_F(Lifecycle, StartAndNormalExitRunInTheirOrder)
 						 "bind FEditorDelegates::PostPIEStarted", "bind UGameViewportClient::CreatedDelegate"));
 	// By then the objects and the asset tools are gone.
 	Driver.Quit();
-	EXPECT_THAT(
-		TakeTrace(), ElementsAre("editor exit", "shut down module AssetTools", "broadcast FCoreDelegates::OnPreExit",
-						 "broadcast FCoreDelegates::OnExit", "purge objects", "shut down module LevelEditor",
-						 "shut down module PropertyEditor", "shut down module TonalithEditor",
-						 "unregister style TonalithStyle", "unbind FWorldDelegates::OnPreWorldInitialization (1)",
-						 "unbind FCoreDelegates::OnFEngineLoopInitComplete (1)", "shut down module ToolMenus",
-						 "shut down module Tonalith", "unbind FCoreDelegates::OnPostEngineInit (1)",
-						 "unbind FEditorDelegates::ShutdownPIE (1)"));
+	EXPECT_THAT(TakeTrace(),
+		ElementsAre("editor exit", "shut down module AssetTools", "broadcast FCoreDelegates::OnPreExit",
+			"broadcast FCoreDelegates::OnExit", "purge objects", "shut down module LevelEditor",
+			"shut down module PropertyEditor", "shut down module TonalithLookFiles", "shut down module TonalithEditor",
+			"unregister style TonalithStyle", "unbind FWorldDelegates::OnPreWorldInitialization (1)",
+			"unbind FCoreDelegates::OnFEngineLoopInitComplete (1)", "shut down module ToolMenus",
+			"shut down module Tonalith", "unbind FCoreDelegates::OnPostEngineInit (1)",
+			"unbind FEditorDelegates::ShutdownPIE (1)"));
 }
 
 TEST_F(Lifecycle, UnloadingInASessionRunsEveryStepAndLeavesFourBindings)

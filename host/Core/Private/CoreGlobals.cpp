@@ -1,9 +1,13 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "CoreGlobals.h"
 
+#include "Misc/App.h"
+
 #include <thread>
 
 DEFINE_LOG_CATEGORY(LogTemp);
+
+bool FApp::bCanEverRender = true;
 
 namespace
 {

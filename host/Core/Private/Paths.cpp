@@ -33,6 +33,22 @@ FString FPaths::GetPath(const FString& Path)
 	return Path.Mid(0, Slash == std::wstring_view::npos ? 0 : static_cast<int32>(Slash));
 }
 
+FString FPaths::GetExtension(const FString& Path)
+{
+	const FString Extension = std::filesystem::path(*Path).extension().generic_wstring().c_str();
+	return Extension.Mid(1);
+}
+
+FString FPaths::GetBaseFilename(const FString& Path)
+{
+	return std::filesystem::path(*Path).stem().generic_wstring().c_str();
+}
+
+FString FPaths::ConvertRelativePathToFull(const FString& Path)
+{
+	return std::filesystem::absolute(*Path).lexically_normal().generic_wstring().c_str();
+}
+
 bool FPaths::FileExists(const FString& Path)
 {
 	std::error_code Ignored;

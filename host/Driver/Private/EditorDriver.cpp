@@ -142,11 +142,7 @@ void FEditorDriver::OpenAssets(const TArray<FString>& Paths)
 	TArray<UObject*> Assets;
 	for (const FString& Path : Paths)
 	{
-		Assets.Add(StaticLoadObject(UObject::StaticClass(), *Path));
-		if (!Assets.Last())
-		{
-			throw FDriverError(FString::Printf(TEXT("no asset \"%s\""), *Path));
-		}
+		Assets.Add(&Asset(Path));
 	}
 	UAssetEditorSubsystem::OpenEditorForAssets(Assets);
 }

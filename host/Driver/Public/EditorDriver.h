@@ -72,6 +72,18 @@ public:
 	/** Selects assets in the content browser and opens them. @param Paths such as "/Game/Looks/Night.Night" */
 	void OpenAssets(const TArray<FString>& Paths);
 
+	/** Imports files in the content browser. @return the assets; null for a file that became none */
+	TArray<UObject*> ImportFiles(const TArray<FString>& Files, const FString& Folder);
+
+	/** "Reimport" in the menu of an asset. @return false when it failed, or the asset came from no file */
+	bool Reimport(const FString& Path);
+
+	/** "Asset Actions > Export", as the file's extension tells. */
+	void Export(const FString& Path, const FString& File);
+
+	/** Takes the last transaction back. */
+	void Undo();
+
 	/** Plays in the active pane. */
 	void PlayInPane();
 
@@ -93,6 +105,9 @@ public:
 	void Quit();
 
 private:
+	/** The asset of that path, loaded. */
+	UObject& Asset(const FString& Path) const;
+
 	FEngineLoop Loop;
 	FMenuDriver MenuDriver;
 	FWindowDriver WindowDriver;

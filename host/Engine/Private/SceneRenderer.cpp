@@ -3,6 +3,7 @@
 
 #include "CanvasTypes.h"
 #include "Engine/Engine.h"
+#include "LookupTables.h"
 #include "SceneView.h"
 #include "Scenes.h"
 
@@ -99,10 +100,11 @@ void HostScene::Draw(FViewport& Viewport, FCanvas& Canvas)
 		Extension->BeginRenderViewFamily(Family);
 	}
 	const FPostProcessSettings& Settings = View.FinalPostProcessSettings;
+	const FHostLookupTable Table(View.FinalPostProcessSettings);
 	const TArray<FColor>& Picture = PlainPicture(Canvas.Size);
 	for (int32 Index = 0; Index < Picture.Num(); ++Index)
 	{
-		Canvas.Pixels[Index] = Extensions.IsEmpty() ? Picture[Index] : Graded(Picture[Index], Settings);
+		Canvas.Pixels[Index] = Extensions.IsEmpty() ? Picture[Index] : Table.Apply(Graded(Picture[Index], Settings));
 	}
 }
 

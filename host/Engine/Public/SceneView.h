@@ -2,14 +2,14 @@
 // What is rendered of a scene: a view, and the views of one target together.
 #pragma once
 
-#include "Engine/Scene.h"
+#include "FinalPostProcessSettings.h"
 
 class FRenderTarget;
 
 class FSceneView
 {
 public:
-	FPostProcessSettings FinalPostProcessSettings;
+	FFinalPostProcessSettings FinalPostProcessSettings;
 };
 
 class FSceneViewFamily

@@ -8,6 +8,7 @@
 #include "Host/Project.h"
 #include "Host/Trace.h"
 #include "LevelEditor.h"
+#include "Misc/App.h"
 #include "Misc/CoreDelegates.h"
 #include "ToolMenus.h"
 
@@ -41,6 +42,7 @@ void FEngineLoop::Init(const FEngineLoopOptions& Options)
 {
 	std::set_terminate(&OnUncaughtException);
 	bIsCommandlet = Options.bIsCommandlet;
+	FApp::bCanEverRender = !bIsCommandlet;
 	HostProject::SetFolder(Options.ProjectFolder);
 	FInternationalization::Get().SetCurrentCulture(Options.Culture);
 	HostScene::Show(Options.Scene);

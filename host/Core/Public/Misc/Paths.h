@@ -25,6 +25,14 @@ public:
 	/** What stands before the last "/"; empty without one. */
 	CORE_API static FString GetPath(const FString& Path);
 
+	/** What stands behind the name's last ".". */
+	CORE_API static FString GetExtension(const FString& Path);
+
+	/** The name without that. */
+	CORE_API static FString GetBaseFilename(const FString& Path);
+
+	CORE_API static FString ConvertRelativePathToFull(const FString& Path);
+
 	/** Whether there is such a file, or folder; false also when it cannot be told. */
 	CORE_API static bool FileExists(const FString& Path);
 	CORE_API static bool DirectoryExists(const FString& Path);

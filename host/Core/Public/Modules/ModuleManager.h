@@ -90,6 +90,11 @@ private:
 	FSimpleMulticastDelegate ProcessLoadedObjectsCallback;
 };
 
+/** Has nothing to start. */
+class FDefaultModuleImpl : public IModuleInterface
+{
+};
+
 /** Exports the factory that the loader looks for. Stands once in a module, in its main source file. */
 #define IMPLEMENT_MODULE(ModuleImplClass, ModuleName)                                                                  \
 	extern "C" DLLEXPORT IModuleInterface* InitializeModule()                                                          \

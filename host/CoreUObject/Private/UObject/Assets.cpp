@@ -56,7 +56,7 @@ UObject* Load(const FAssetData& Asset)
 	}
 	UPackage* Package = CreatePackage(*Asset.PackageName.ToString());
 	UObject* Object = StaticConstructObject(Class, Package, Asset.AssetName, RF_Public | RF_Standalone);
-	HostConfig::Read(*Object, CPF_Edit, Section, FileOf(Asset));
+	HostConfig::Read(*Object, HostConfig::Lasting, Section, FileOf(Asset));
 	return Object;
 }
 } // namespace
@@ -110,7 +110,7 @@ void HostAssets::SaveDirtyPackages()
 		HostTrace::Line(TEXT("save asset %s"), *Path);
 		const FString File = FileOf(Asset);
 		GConfig->SetArray(Section, ClassKey, {Asset.AssetClassPath.ToString()}, File);
-		HostConfig::Write(*Object, CPF_Edit, Section, File);
+		HostConfig::Write(*Object, HostConfig::Lasting, Section, File);
 		Object->GetPackage()->SetDirtyFlag(false);
 	}
 }

@@ -1,6 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "UObject/Object.h"
 
+#include "Host/Transactions.h"
 #include "UObject/Class.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
@@ -42,10 +43,21 @@ bool UObject::MarkPackageDirty() const
 	return true;
 }
 
-void UObject::PostEditUndo()
+bool UObject::Modify(bool bAlwaysMarkDirty)
+{
+	HostTransactions::Keep(*this);
+	return bAlwaysMarkDirty && MarkPackageDirty();
+}
+
+void UObject::PostEditChange()
 {
 	FPropertyChangedEvent Event(nullptr);
 	PostEditChangeProperty(Event);
+}
+
+void UObject::PostEditUndo()
+{
+	PostEditChange();
 }
 
 bool UObject::IsA(const UClass* SomeBase) const

@@ -14,6 +14,12 @@ FString ConfigFile(const UClass& Class)
 	return FPaths::Combine(
 		FPaths::ProjectSavedDir(), TEXT("Config/WindowsEditor"), *(Class.ClassConfigName.ToString() + TEXT(".ini")));
 }
+
+bool HasFlags(const FProperty& Property, uint64 Flags)
+{
+	return Flags == HostConfig::Lasting ? !Property.HasAnyPropertyFlags(CPF_Transient)
+										: Property.HasAnyPropertyFlags(Flags);
+}
 } // namespace
 
 void HostConfig::Read(UObject& Object, uint64 Flags, const TCHAR* Section, const FString& File)
@@ -21,7 +27,7 @@ void HostConfig::Read(UObject& Object, uint64 Flags, const TCHAR* Section, const
 	for (const auto& Property : Object.GetClass()->GetOwnProperties())
 	{
 		TArray<FString> Lines;
-		if (Property->HasAnyPropertyFlags(Flags) && GConfig->GetArray(Section, *Property->GetName(), Lines, File) > 0)
+		if (HasFlags(*Property, Flags) && GConfig->GetArray(Section, *Property->GetName(), Lines, File) > 0)
 		{
 			Property->ReadLines(Lines, &Object);
 		}
@@ -32,7 +38,7 @@ void HostConfig::Write(UObject& Object, uint64 Flags, const TCHAR* Section, cons
 {
 	for (const auto& Property : Object.GetClass()->GetOwnProperties())
 	{
-		if (Property->HasAnyPropertyFlags(Flags))
+		if (HasFlags(*Property, Flags))
 		{
 			GConfig->SetArray(Section, *Property->GetName(), Property->ToLines(&Object), File);
 		}

@@ -11,6 +11,9 @@ namespace HostConfig
 /** Reads the config properties of a default object from the class's config file. */
 void Load(UObject& DefaultObject);
 
+/** The flags of all properties but transient ones. */
+constexpr uint64 Lasting = 0;
+
 /** Reads the properties that have one of the flags and stand in the section; the others stay. */
 void Read(UObject& Object, uint64 Flags, const TCHAR* Section, const FString& File);
 

@@ -110,6 +110,36 @@ void HostText::Read(const FString& Text, FName& OutValue)
 	}
 }
 
+FString HostText::Write(const FString& Value)
+{
+	return Value;
+}
+
+void HostText::Read(const FString& Text, FString& OutValue)
+{
+	OutValue = Text;
+}
+
+TArray<FString> HostText::WriteLines(const TArray<uint8>& Values)
+{
+	std::wstring Text;
+	for (const uint8 Value : Values)
+	{
+		Text += {L"0123456789ABCDEF"[Value / 16], L"0123456789ABCDEF"[Value % 16]};
+	}
+	return {FString(Text.c_str())};
+}
+
+void HostText::ReadLines(const TArray<FString>& Lines, TArray<uint8>& OutValues)
+{
+	OutValues.Empty();
+	for (int32 At = 0; At + 1 < Lines.Last().Len(); At += 2)
+	{
+		const TCHAR Digits[]{(*Lines.Last())[At], (*Lines.Last())[At + 1], 0};
+		OutValues.Add(static_cast<uint8>(std::wcstoul(Digits, nullptr, 16)));
+	}
+}
+
 FString HostText::Write(const FVector4& Value)
 {
 	return FString::Printf(TEXT("(X=%f,Y=%f,Z=%f,W=%f)"), Value.X, Value.Y, Value.Z, Value.W);

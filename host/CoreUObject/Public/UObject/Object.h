@@ -76,6 +76,15 @@ public:
 	/** The object's destruction begins; what overrides this calls it last. */
 	virtual void BeginDestroy() {}
 
+	/** Has the transaction under way, if there is one, keep the object as it is. */
+	bool Modify(bool bAlwaysMarkDirty = true);
+
+	/** A property is about to change; null for any. */
+	virtual void PreEditChange(class FProperty*) { Modify(); }
+
+	/** Any property was changed. */
+	void PostEditChange();
+
 	/** A change was taken back by a user. */
 	virtual void PostEditUndo();
 

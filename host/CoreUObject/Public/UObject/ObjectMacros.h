@@ -29,6 +29,7 @@ enum EPropertyFlags : uint64
 {
 	CPF_None = 0x0,
 	CPF_Edit = 0x1,
+	CPF_Transient = 0x2000,
 	CPF_Config = 0x4000,
 };
 

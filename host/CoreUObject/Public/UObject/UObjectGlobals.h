@@ -14,6 +14,13 @@ COREUOBJECT_API UPackage* CreatePackage(const TCHAR* PackageName);
 /** By its path, such as "/Game/Looks/Warm.Warm"; null when there is none of that class. */
 COREUOBJECT_API UObject* StaticFindObject(UClass* Class, const TCHAR* Path);
 
+/** The object of that name directly in the outer one; null when there is none of that class. */
+template <class T>
+T* FindObject(UObject* Outer, const TCHAR* Name)
+{
+	return static_cast<T*>(StaticFindObject(T::StaticClass(), *(Outer->GetPathName() + TEXT(".") + Name)));
+}
+
 /** As above, but an asset that is not in memory is loaded. */
 COREUOBJECT_API UObject* StaticLoadObject(UClass* Class, const TCHAR* Path);
 

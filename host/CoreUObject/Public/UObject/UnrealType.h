@@ -11,6 +11,7 @@ namespace HostText
 COREUOBJECT_API FString Write(bool Value);
 COREUOBJECT_API FString Write(float Value);
 COREUOBJECT_API FString Write(const FName& Value);
+COREUOBJECT_API FString Write(const FString& Value);
 COREUOBJECT_API FString Write(const FVector4& Value);
 COREUOBJECT_API FString WriteObject(const UObject* Value);
 COREUOBJECT_API FString WriteStruct(const UScriptStruct& Struct, const void* Value);
@@ -18,6 +19,7 @@ COREUOBJECT_API FString WriteStruct(const UScriptStruct& Struct, const void* Val
 COREUOBJECT_API void Read(const FString& Text, bool& OutValue);
 COREUOBJECT_API void Read(const FString& Text, float& OutValue);
 COREUOBJECT_API void Read(const FString& Text, FName& OutValue);
+COREUOBJECT_API void Read(const FString& Text, FString& OutValue);
 COREUOBJECT_API void Read(const FString& Text, FVector4& OutValue);
 COREUOBJECT_API UObject* ReadObject(const FString& Text, UClass* Class, UObject* Before);
 COREUOBJECT_API void ReadStruct(const FString& Text, const UScriptStruct& Struct, void* OutValue);
@@ -45,6 +47,10 @@ void Read(const FString& Text, T& OutValue)
 {
 	ReadStruct(Text, *T::StaticStruct(), &OutValue);
 }
+
+/** Bytes are one line in hexadecimal. */
+COREUOBJECT_API TArray<FString> WriteLines(const TArray<uint8>& Values);
+COREUOBJECT_API void ReadLines(const TArray<FString>& Lines, TArray<uint8>& OutValues);
 
 /** The lines of a config file: one an element for arrays. */
 template <class T>

@@ -4,6 +4,7 @@
 
 #include "Engine/Engine.h"
 #include "Engine/World.h"
+#include "Host/Transactions.h"
 #include "PlayInEditorDataTypes.h"
 
 class FEditorViewportClient;
@@ -56,6 +57,16 @@ public:
 
 	/** Every viewport of the editor is drawn anew in the next tick. */
 	void RedrawAllViewports(bool = true) { bRedrawRequested = true; }
+
+	/** Takes the last transaction back. @return false when there is none */
+	bool UndoTransaction(bool = true) { return HostTransactions::Undo(); }
+
+	template <class SubsystemType>
+	SubsystemType* GetEditorSubsystem() const
+	{
+		static SubsystemType Subsystem;
+		return &Subsystem;
+	}
 
 	/** Asks for a session; it begins at the next tick. */
 	UNREALED_API void RequestPlaySession(const FRequestPlaySessionParams& InParams);

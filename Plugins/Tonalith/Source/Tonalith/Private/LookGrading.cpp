@@ -1,7 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "LookGrading.h"
 
-#include "Engine/Scene.h"
+#include "Engine/Texture2D.h"
 #include "TonalithObject.h"
 
 namespace
@@ -20,6 +20,11 @@ constexpr FLookControlRange Factor{0.0, 8.0, 1.0};
 constexpr FLookControlRange Exponent{0.01, 8.0, 1.0};
 constexpr FLookControlRange Summand{-8.0, 8.0, 0.0};
 
+double ShareOf(float Weight)
+{
+	return FMath::IsFinite(Weight) ? FMath::Clamp(static_cast<double>(Weight), 0.0, 1.0) : 0.0;
+}
+
 double Blend(double Setting, double Value, const FLookControlRange& Range, double Weight)
 {
 	const double Valid = FMath::IsFinite(Value) ? FMath::Clamp(Value, Range.Minimum, Range.Maximum) : Range.Neutral;
@@ -35,7 +40,7 @@ void Blend(FVector4& Setting, const FVector4& Value, const FLookControlRange& Ra
 
 void BlendLook(const UTonalithObject& Look, float Weight, FPostProcessSettings& Settings)
 {
-	const double Share = FMath::IsFinite(Weight) ? FMath::Clamp(static_cast<double>(Weight), 0.0, 1.0) : 0.0;
+	const double Share = ShareOf(Weight);
 	Blend(Settings.ColorSaturation, Look.Saturation, Factor, Share);
 	Blend(Settings.ColorContrast, Look.Contrast, Factor, Share);
 	Blend(Settings.ColorGamma, Look.Gamma, Exponent, Share);
@@ -46,6 +51,16 @@ void BlendLook(const UTonalithObject& Look, float Weight, FPostProcessSettings& 
 	Settings.bOverride_ColorGamma = true;
 	Settings.bOverride_ColorGain = true;
 	Settings.bOverride_ColorOffset = true;
+}
+
+void BlendLook(UTonalithObject& Look, float Weight, FFinalPostProcessSettings& Settings)
+{
+	BlendLook(Look, Weight, static_cast<FPostProcessSettings&>(Settings));
+	UTexture2D* const Table = Look.GetTableTexture();
+	if (Table && ShareOf(Weight) > 0.0)
+	{
+		Settings.LerpTo(Table, static_cast<float>(ShareOf(Weight)));
+	}
 }
 
 LookColor::FGrading GradingOf(const UTonalithObject& Look)

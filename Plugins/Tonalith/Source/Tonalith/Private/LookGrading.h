@@ -3,9 +3,9 @@
 #pragma once
 
 #include "Color/Grading.h"
+#include "FinalPostProcessSettings.h"
 
 class UTonalithObject;
-struct FPostProcessSettings;
 
 /**
  * Blends the look's controls into the settings of a view. Values outside a control's range are taken as its nearest end,
@@ -13,6 +13,9 @@ struct FPostProcessSettings;
  * @param Weight 0 leaves the settings as they are, 1 sets the look in full
  */
 void BlendLook(const UTonalithObject& Look, float Weight, FPostProcessSettings& Settings);
+
+/** The same for the settings of a view that is drawn: with the look's table, blended with those that are there. */
+void BlendLook(UTonalithObject& Look, float Weight, FFinalPostProcessSettings& Settings);
 
 /** The look in full as functions of light, its values made valid likewise. */
 LookColor::FGrading GradingOf(const UTonalithObject& Look);

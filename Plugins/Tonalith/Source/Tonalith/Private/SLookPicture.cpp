@@ -2,8 +2,9 @@
 #include "SLookPicture.h"
 
 #include "Brushes/SlateDynamicImageBrush.h"
-#include "Color/FrameGrader.h"
+#include "Color/TableGrader.h"
 #include "LookGrading.h"
+#include "LookTableInUse.h"
 #include "Templates/Casts.h"
 #include "TonalithObject.h"
 #include "Widgets/Images/SImage.h"
@@ -78,7 +79,10 @@ EActiveTimerReturnType SLookPicture::Draw(double, float)
 	}
 	if (!bIsGraded)
 	{
-		Frame.Grade(LookColor::FControlsGrader(GradingOf(*Shown)));
+		const LookColor::FGrading Grading = GradingOf(*Shown);
+		const TSharedPtr<const FLookTableInUse> Table = Shown->GetTable();
+		Table.IsValid() ? Frame.Grade(LookColor::FTableGrader(Grading, Table->Table, Table->Cube))
+						: Frame.Grade(LookColor::FControlsGrader(Grading));
 		bIsGraded = true;
 	}
 	// Textures are found by name: a picture under the name of the one before would not be seen.

@@ -5,7 +5,6 @@
 #include <charconv>
 #include <cmath>
 #include <functional>
-#include <limits>
 #include <utility>
 
 namespace LookColor
@@ -33,6 +32,11 @@ bool IsLetter(char Byte)
 	return (Byte >= 'A' && Byte <= 'Z') || (Byte >= 'a' && Byte <= 'z');
 }
 
+bool IsControl(char Byte)
+{
+	return static_cast<unsigned char>(Byte) < 0x20 || Byte == 0x7F;
+}
+
 void SkipBlanks(std::string_view& Text)
 {
 	while (!Text.empty() && IsBlank(Text.front()))
@@ -55,31 +59,26 @@ std::string Excerpt(std::string_view Text)
 	for (const char Byte : Text.substr(0, LongestExcerpt))
 	{
 		const auto Value = static_cast<unsigned char>(Byte);
-		const bool bIsPrintable = Value >= 0x20 && Value < 0x7F;
+		const bool bIsPrintable = Value < 0x80 && !IsControl(Byte);
 		Result += bIsPrintable ? std::string(1, Byte) : std::string{'\\', 'x', Digits[Value / 16], Digits[Value % 16]};
 	}
 	return Result + (Text.size() > LongestExcerpt ? "...\"" : "\"");
 }
 
-/** Takes a number and the blanks before it from the front of a text. @return false when no number stands there alone */
+/**
+ * Takes a number and the blanks before it from the front of a text.
+ * @return false, and the text but for blanks as it was, when no number of the type stands there alone
+ */
 template <class NumberType>
 bool TakeNumber(std::string_view& Text, NumberType& OutNumber)
 {
 	SkipBlanks(Text);
-	Text.remove_prefix(Text.starts_with('+') ? 1 : 0);
+	const bool bHasPlus = Text.starts_with('+') && !Text.starts_with("+-");
 	const char* const End = Text.data() + Text.size();
-	const auto [Behind, Error] = std::from_chars(Text.data(), End, OutNumber);
-	if (Error == std::errc::invalid_argument ||
-		(Behind != End && !IsBlank(*Behind) && !IsLineEnd(*Behind) && *Behind != '#'))
+	const auto [Behind, Error] = std::from_chars(Text.data() + bHasPlus, End, OutNumber);
+	if (Error != std::errc() || (Behind != End && !IsBlank(*Behind) && !IsLineEnd(*Behind) && *Behind != '#'))
 	{
 		return false;
-	}
-	if (Error == std::errc::result_out_of_range)
-	{
-		// Too small is as good as nothing; too great stays too great.
-		const std::string_view Digits(Text.data(), Behind);
-		const bool bIsSmall = Digits.find("e-") != Digits.npos || Digits.find("E-") != Digits.npos;
-		OutNumber = bIsSmall ? NumberType(0) : std::numeric_limits<NumberType>::max();
 	}
 	Text.remove_prefix(static_cast<std::size_t>(Behind - Text.data()));
 	return true;
@@ -173,11 +172,12 @@ private:
 		SkipBlanks(Rest);
 		const std::string_view Quoted = FirstLine(Rest);
 		const std::size_t End = Quoted.find('"', 1);
-		if (!Quoted.starts_with('"') || End == Quoted.npos || End > LongestTitle)
+		const bool bIsQuoted = Quoted.starts_with('"') && End != Quoted.npos && End <= LongestTitle;
+		Table.Title = bIsQuoted ? Quoted.substr(1, End - 1) : "";
+		if (!bIsQuoted || std::any_of(Table.Title.begin(), Table.Title.end(), IsControl))
 		{
-			return FailHere("a title of less than 255 bytes in quotes");
+			return FailHere("a title in quotes, of at most 254 printable bytes");
 		}
-		Table.Title = Quoted.substr(1, End - 1);
 		Rest.remove_prefix(End + 1);
 		return true;
 	}
@@ -191,7 +191,18 @@ private:
 	bool ReadShaperSize() { return ReadSize(ShaperSize, MostShaperSize); }
 	bool ReadCubeSize() { return ReadSize(Table.CubeSize, MostCubeSize); }
 
-	bool TakeValue(float& OutValue) { return TakeNumber(Rest, OutValue) && std::abs(OutValue) <= MostTableValue; }
+	bool TakeValue(float& OutValue)
+	{
+		if (TakeNumber(Rest, OutValue))
+		{
+			return std::abs(OutValue) <= MostTableValue;
+		}
+		// What is too small for a float still is a number.
+		double Value = 0.0;
+		const bool bIsValue = TakeNumber(Rest, Value) && std::abs(Value) <= MostTableValue;
+		OutValue = bIsValue ? static_cast<float>(Value) : 0.0f;
+		return bIsValue;
+	}
 
 	bool ReadTriple(FTriple& Out)
 	{

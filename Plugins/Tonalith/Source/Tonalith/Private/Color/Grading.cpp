@@ -15,6 +15,12 @@ constexpr double MiddleGrey = 0.18;
 constexpr double Never = std::numeric_limits<double>::infinity();
 } // namespace
 
+bool MixesChannels(const FGrading& Grading)
+{
+	return std::any_of(
+		Grading.begin(), Grading.end(), [](const FChannelGrading& Channel) { return Channel.Saturation != 1.0; });
+}
+
 double GradedLight(const FChannelGrading& Grading, double Light)
 {
 	const double Contrasted = std::pow(Light / MiddleGrey, Grading.Contrast) * MiddleGrey;

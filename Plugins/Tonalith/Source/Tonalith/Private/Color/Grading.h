@@ -28,6 +28,9 @@ struct FChannelGrading
 /** Red, green and blue. */
 using FGrading = std::array<FChannelGrading, 3>;
 
+/** Whether a channel of the result depends on others than its own. */
+bool MixesChannels(const FGrading& Grading);
+
 /** How much of the luminance each channel is, after ITU-R BT.709. */
 inline constexpr std::array<double, 3> LuminanceShares{0.2126, 0.7152, 0.0722};
 

@@ -10,7 +10,8 @@ namespace LookColor
 {
 namespace
 {
-constexpr std::size_t CurveSize = 4096;
+/** The values of 8 bits lie on samples. */
+constexpr std::size_t CurveSize = 255 * 16 + 1;
 constexpr float MostError = 1.0f / 255.0f;
 
 /** Curves are the controls' own, with so much of a straight line in them that they rise where those are level. */
@@ -40,22 +41,33 @@ struct FLook
 	}
 };
 
-std::vector<FTriple> MakeCurves(const FGrading& Grading, double StraightShare)
+/** @param CurveOf takes a channel and a value */
+template <class CurveOfType>
+std::vector<FTriple> MakeCurves(CurveOfType CurveOf)
 {
 	std::vector<FTriple> Curves(CurveSize);
-	for (std::size_t Channel = 0; Channel < Grading.size(); ++Channel)
+	for (std::size_t Sample = 0; Sample < CurveSize; ++Sample)
 	{
-		const auto Curve = [&](double Value)
-		{ return GradedValue(Grading[Channel], Decoded(Value)) * (1.0 - StraightShare) + Value * StraightShare; };
-		const double Begin = Curve(0.0);
-		const double End = Curve(1.0);
-		for (std::size_t Sample = 0; Sample < CurveSize; ++Sample)
+		for (std::size_t Channel = 0; Channel < Curves[Sample].size(); ++Channel)
 		{
-			const double Value = static_cast<double>(Sample) / (CurveSize - 1);
-			Curves[Sample][Channel] = static_cast<float>((Curve(Value) - Begin) / (End - Begin));
+			Curves[Sample][Channel] =
+				static_cast<float>(CurveOf(Channel, static_cast<double>(Sample) / (CurveSize - 1)));
 		}
 	}
 	return Curves;
+}
+
+/** From 0 to 1, rising. */
+std::vector<FTriple> MakeCurves(const FGrading& Grading, double StraightShare)
+{
+	const auto Curve = [&](std::size_t Channel, double Value)
+	{ return GradedValue(Grading[Channel], Decoded(Value)) * (1.0 - StraightShare) + Value * StraightShare; };
+	return MakeCurves(
+		[&](std::size_t Channel, double Value)
+		{
+			const double Begin = Curve(Channel, 0.0);
+			return (Curve(Channel, Value) - Begin) / (Curve(Channel, 1.0) - Begin);
+		});
 }
 
 /** The value that the table's curves turn into the given one. */
@@ -99,6 +111,25 @@ FLookTable Made(const FLook& Look, std::vector<FTriple> Curves, std::size_t Size
 	return Table;
 }
 
+/** For a look that mixes no channels: all that stands before the cube as curves, and the cube by itself. */
+FLookTable MadeApart(const FGrading& Grading, const FLookTable* Table, std::size_t Size)
+{
+	FLookTable Cube = Table ? *Table : FLookTable();
+	const FTableDomain Domain = Cube.CubeDomain;
+	std::vector<FTriple> Curves = MakeCurves(
+		[&](std::size_t Channel, double Value)
+		{
+			const float Shown = Shaped(Cube, Channel, GradedValue(Grading[Channel], Decoded(Value)));
+			return std::clamp(
+				(Shown - Domain.Begin[Channel]) / (Domain.End[Channel] - Domain.Begin[Channel]), 0.0f, 1.0f);
+		});
+	Cube.Shaper.clear();
+	Cube.CubeDomain = {};
+	FLookTable Result = Made(FLook{FGrading(), &Cube}, {}, Size);
+	Result.Shaper = std::move(Curves);
+	return Result;
+}
+
 /** How far the table is off, over all greys of 8 bits and colors all over the cube. */
 float ErrorOf(const FLookTable& Table, const FLook& Look)
 {
@@ -133,18 +164,24 @@ FLookTable Baked(const FGrading& Grading, const FLookTable* Table, std::size_t S
 	const FLook Look{Grading, Table};
 	FLookTable Best = Made(Look, {}, Size);
 	float BestError = ErrorOf(Best, Look);
-	for (const double StraightShare : StraightShares)
+	const auto Try = [&](FLookTable&& Other)
 	{
-		if (BestError <= MostError)
-		{
-			break;
-		}
-		FLookTable Other = Made(Look, MakeCurves(Grading, StraightShare), Size);
 		const float Error = ErrorOf(Other, Look);
 		if (Error < BestError)
 		{
 			Best = std::move(Other);
 			BestError = Error;
+		}
+	};
+	if (BestError > MostError && !MixesChannels(Grading))
+	{
+		Try(MadeApart(Grading, Table, Size));
+	}
+	for (const double StraightShare : StraightShares)
+	{
+		if (BestError > MostError)
+		{
+			Try(Made(Look, MakeCurves(Grading, StraightShare), Size));
 		}
 	}
 	return Best;

@@ -109,8 +109,6 @@ FTableGrader::FTableGrader(const FGrading& InGrading, const FLookTable& InTable,
 			PlacesByValue[Channel][Value] = PlaceFor(Decoded(static_cast<double>(Value) / 255.0));
 		}
 	}
-	bMixes = std::any_of(
-		Grading.begin(), Grading.end(), [](const FChannelGrading& Channel) { return Channel.Saturation != 1.0; });
 }
 
 void FTableGrader::Grade(const std::uint8_t* Source, std::uint8_t* Target, std::size_t PixelCount) const
@@ -119,7 +117,7 @@ void FTableGrader::Grade(const std::uint8_t* Source, std::uint8_t* Target, std::
 	{
 		GradeByFormulas(Source, Target, PixelCount);
 	}
-	else if (bMixes)
+	else if (MixesChannels(Grading))
 	{
 		const auto ByLight = [this](const std::uint8_t* Pixel) -> FPlaces
 		{

@@ -77,6 +77,5 @@ private:
 
 	/** For each stored value; used without saturation, when channels do not mix. */
 	std::array<std::array<FPlace, 256>, 3> PlacesByValue;
-	bool bMixes;
 };
 } // namespace LookColor
