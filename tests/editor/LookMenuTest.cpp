@@ -28,13 +28,13 @@ std::string Described(const FToolMenuSection& Section, const std::string& Indent
 		Text += Indent + "  " + TCHAR_TO_UTF8(*Entry.Name.ToString());
 		Text += ", type " + std::to_string(int(Entry.UserInterfaceActionType));
 		Text += Entry.bShouldCloseWindowAfterMenuSelection ? ", closes" : "";
-		Text += Entry.bOpenSubMenuOnClick ? ", on click" : "";
-		Text += Entry.bNoIndent ? ", no indent" : "";
-		Text += Entry.bNoPadding ? ", no padding" : "";
-		Text += Entry.bSearchable ? ", searchable: " : ": ";
+		Text += Entry.SubMenuData.bOpenSubMenuOnClick ? ", on click" : "";
+		Text += Entry.WidgetData.bNoIndent ? ", no indent" : "";
+		Text += Entry.WidgetData.bNoPadding ? ", no padding" : "";
+		Text += Entry.WidgetData.bSearchable ? ", searchable: " : ": ";
 		Text += TCHAR_TO_UTF8(*Entry.ToolTip.Get().ToString());
 		UToolMenu& Opened = *new UToolMenu();
-		Entry.ConstructMenu.NewToolMenu.ExecuteIfBound(&Opened);
+		Entry.SubMenuData.ConstructMenu.NewToolMenu.ExecuteIfBound(&Opened);
 		for (const FToolMenuSection& Inner : Opened.Sections)
 		{
 			Text += Described(Inner, Indent + "    ");

@@ -8,6 +8,7 @@
 DEFINE_LOG_CATEGORY(LogTemp);
 
 bool FApp::bCanEverRender = true;
+FString GEditorPerProjectIni;
 
 namespace
 {

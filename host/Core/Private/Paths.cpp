@@ -1,6 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Misc/Paths.h"
 
+#include "CoreGlobals.h"
 #include "Host/Project.h"
 
 #include <filesystem>
@@ -15,6 +16,7 @@ void HostProject::SetFolder(const FString& Folder)
 {
 	const FString Path = std::filesystem::path(*Folder).generic_wstring().c_str();
 	ProjectFolder = Path.EndsWith(TEXT("/")) ? Path : Path + TEXT("/");
+	GEditorPerProjectIni = FPaths::ProjectSavedDir() + TEXT("Config/WindowsEditor/EditorPerProjectUserSettings.ini");
 }
 
 FString FPaths::ProjectContentDir()

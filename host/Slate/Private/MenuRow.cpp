@@ -1,6 +1,15 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Host/MenuRow.h"
 
+void SMenuRow::Construct(const FArguments& InArgs)
+{
+	Row = InArgs;
+	if (Row._Kind == EMenuRow::Toggle)
+	{
+		ChildSlot[SAssignNew(CheckBox, SCheckBox).Action(Row._Action)];
+	}
+}
+
 bool SMenuRow::IsClickable() const
 {
 	return Row._Kind == EMenuRow::SubMenu || (Row._Action.ExecuteAction.IsBound() && Row._Action.CanExecute());

@@ -3,15 +3,38 @@
 
 #include <utility>
 
-void SWidget::ForEachWidget(const std::function<void(SWidget&)>& Function)
+namespace
 {
-	Function(*this);
-	for (const FSlotBase* Slot : GetSlots())
+TArray<TSharedPtr<SWidget>> ChildrenOf(const SWidget& Widget)
+{
+	TArray<TSharedPtr<SWidget>> Children;
+	for (const FSlotBase* Slot : Widget.GetSlots())
 	{
 		if (Slot->Widget.IsValid())
 		{
-			Slot->Widget->ForEachWidget(Function);
+			Children.Add(Slot->Widget);
 		}
+	}
+	return Children;
+}
+} // namespace
+
+int32 FChildren::Num() const
+{
+	return ChildrenOf(Owner).Num();
+}
+
+TSharedRef<SWidget> FChildren::GetChildAt(int32 Index) const
+{
+	return ChildrenOf(Owner)[Index].ToSharedRef();
+}
+
+void SWidget::ForEachWidget(const std::function<void(SWidget&)>& Function)
+{
+	Function(*this);
+	for (const TSharedPtr<SWidget>& Child : ChildrenOf(*this))
+	{
+		Child->ForEachWidget(Function);
 	}
 }
 

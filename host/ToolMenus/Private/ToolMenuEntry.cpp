@@ -23,9 +23,7 @@ FToolMenuEntry FToolMenuEntry::InitSubMenu(const FName InName, const TAttribute<
 	const TAttribute<FSlateIcon>& InIcon, const bool bShouldCloseWindowAfterMenuSelection)
 {
 	FToolMenuEntry Entry = InitMenuEntry(InName, InLabel, InToolTip, InIcon, InAction, InUserInterfaceActionType);
-	Entry.bIsSubMenu = true;
-	Entry.bOpenSubMenuOnClick = bInOpenSubMenuOnClick;
-	Entry.ConstructMenu = InMakeMenu;
+	Entry.SubMenuData = {true, bInOpenSubMenuOnClick, InMakeMenu};
 	Entry.bShouldCloseWindowAfterMenuSelection = bShouldCloseWindowAfterMenuSelection;
 	return Entry;
 }
@@ -35,8 +33,6 @@ FToolMenuEntry FToolMenuEntry::InitWidget(const FName InName, const TSharedRef<S
 {
 	FToolMenuEntry Entry = InitMenuEntry(InName, Label, InToolTipText, FSlateIcon(), FToolUIActionChoice());
 	Entry.Widget = InWidget;
-	Entry.bNoIndent = bNoIndent;
-	Entry.bSearchable = bSearchable;
-	Entry.bNoPadding = bNoPadding;
+	Entry.WidgetData = {bNoIndent, bSearchable, bNoPadding};
 	return Entry;
 }

@@ -112,7 +112,7 @@ TSharedRef<SWidget> UToolMenus::GenerateSubMenu(FName Name, FToolMenuEntry Entry
 	UToolMenu& Fresh = *new UToolMenu();
 	Fresh.MenuName = Name;
 	Fresh.bShouldCloseWindowAfterMenuSelection = Entry.bShouldCloseWindowAfterMenuSelection;
-	Entry.ConstructMenu.NewToolMenu.ExecuteIfBound(&Fresh);
+	Entry.SubMenuData.ConstructMenu.NewToolMenu.ExecuteIfBound(&Fresh);
 	Get()->MergeWithParents(Fresh, Name);
 	return SNew(SGeneratedMenu).Menu(&Fresh);
 }

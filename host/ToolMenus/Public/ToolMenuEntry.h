@@ -8,6 +8,24 @@
 #include "ToolMenuOwner.h"
 #include "Widgets/SWidget.h"
 
+/** What an entry that opens a menu has. */
+struct FToolMenuEntrySubMenuData
+{
+	bool bIsSubMenu = false;
+
+	/** Kept, but without effect in the host: every sub-menu opens by a click. */
+	bool bOpenSubMenuOnClick = false;
+	FNewToolMenuChoice ConstructMenu;
+};
+
+/** What an entry that is a widget has; kept, but without effect in the host. */
+struct FToolMenuEntryWidgetData
+{
+	bool bNoIndent = false;
+	bool bSearchable = true;
+	bool bNoPadding = false;
+};
+
 /** An entry of a menu. Its owner is the one at the time of its making. */
 struct TOOLMENUS_API FToolMenuEntry
 {
@@ -15,7 +33,6 @@ struct TOOLMENUS_API FToolMenuEntry
 		const TAttribute<FText>& InToolTip, const TAttribute<FSlateIcon>& InIcon, const FToolUIActionChoice& InAction,
 		const EUserInterfaceActionType InUserInterfaceActionType = EUserInterfaceActionType::Button);
 
-	/** In the host every sub-menu opens by a click, whatever the flag says. */
 	static FToolMenuEntry InitSubMenu(const FName InName, const TAttribute<FText>& InLabel,
 		const TAttribute<FText>& InToolTip, const FNewToolMenuChoice& InMakeMenu, const FToolUIActionChoice& InAction,
 		const EUserInterfaceActionType InUserInterfaceActionType, bool bInOpenSubMenuOnClick = false,
@@ -26,23 +43,17 @@ struct TOOLMENUS_API FToolMenuEntry
 	static FToolMenuEntry InitWidget(const FName InName, const TSharedRef<SWidget>& InWidget, const FText& Label,
 		bool bNoIndent = false, bool bSearchable = true, bool bNoPadding = false, const FText& InToolTipText = FText());
 
-	bool IsSubMenu() const { return bIsSubMenu; }
+	bool IsSubMenu() const { return SubMenuData.bIsSubMenu; }
 
 	FName Name;
 	FToolMenuOwner Owner;
-
-	/** Kept, but without effect in the host. */
-	bool bOpenSubMenuOnClick = false;
-	bool bNoIndent = false;
-	bool bSearchable = true;
-	bool bNoPadding = false;
 
 	EUserInterfaceActionType UserInterfaceActionType = EUserInterfaceActionType::Button;
 
 	/** Of a sub-menu: whether clicking one of its entries closes all menus. */
 	bool bShouldCloseWindowAfterMenuSelection = true;
-	bool bIsSubMenu = false;
-	FNewToolMenuChoice ConstructMenu;
+	FToolMenuEntrySubMenuData SubMenuData;
+	FToolMenuEntryWidgetData WidgetData;
 	TAttribute<FText> Label;
 	TAttribute<FText> ToolTip;
 	FToolUIActionChoice Action;

@@ -22,6 +22,10 @@ struct TOOLMENUS_API FToolMenuSection
 
 	/** Null when there is none of that name. */
 	FToolMenuEntry* FindEntry(const FName InName);
+	const FToolMenuEntry* FindEntry(const FName InName) const
+	{
+		return const_cast<FToolMenuSection*>(this)->FindEntry(InName);
+	}
 
 	FName Name;
 	FToolMenuOwner Owner;

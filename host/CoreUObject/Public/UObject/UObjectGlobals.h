@@ -14,11 +14,12 @@ COREUOBJECT_API UPackage* CreatePackage(const TCHAR* PackageName);
 /** By its path, such as "/Game/Looks/Warm.Warm"; null when there is none of that class. */
 COREUOBJECT_API UObject* StaticFindObject(UClass* Class, const TCHAR* Path);
 
-/** The object of that name directly in the outer one; null when there is none of that class. */
+/** The object of that name directly in the outer one, without one by its path; null when there is none of that class. */
 template <class T>
 T* FindObject(UObject* Outer, const TCHAR* Name)
 {
-	return static_cast<T*>(StaticFindObject(T::StaticClass(), *(Outer->GetPathName() + TEXT(".") + Name)));
+	const FString Path = Outer ? Outer->GetPathName() + TEXT(".") + Name : FString(Name);
+	return static_cast<T*>(StaticFindObject(T::StaticClass(), *Path));
 }
 
 /** As above, but an asset that is not in memory is loaded. */
@@ -35,8 +36,14 @@ T* NewObject(UObject* Outer, const UClass* Class, FName Name = NAME_None, EObjec
 	return static_cast<T*>(StaticConstructObject(const_cast<UClass*>(Class), Outer, Name, Flags));
 }
 
+/** Of objects that are not saved. */
+inline UPackage* GetTransientPackage()
+{
+	return CreatePackage(TEXT("/Engine/Transient"));
+}
+
 template <class T>
-T* NewObject(UObject* Outer = CreatePackage(TEXT("/Engine/Transient")))
+T* NewObject(UObject* Outer = GetTransientPackage())
 {
 	return NewObject<T>(Outer, T::StaticClass());
 }

@@ -4,8 +4,8 @@
 
 #include "Framework/Application/SlateApplication.h"
 #include "Framework/Commands/UIAction.h"
-#include "Widgets/DeclarativeSyntaxSupport.h"
-#include "Widgets/SWidget.h"
+#include "Widgets/Input/SCheckBox.h"
+#include "Widgets/SCompoundWidget.h"
 
 enum class EMenuRow : uint8
 {
@@ -21,7 +21,7 @@ enum class EMenuRow : uint8
 	Asset
 };
 
-class SMenuRow : public SWidget
+class SMenuRow : public SCompoundWidget
 {
 public:
 	SLATE_BEGIN_ARGS(SMenuRow) : _Kind(EMenuRow::Button), _bClosesMenus(false) {}
@@ -38,7 +38,7 @@ public:
 	SLATE_ARGUMENT(FName, SubMenuName)
 	SLATE_END_ARGS()
 
-	void Construct(const FArguments& InArgs) { Row = InArgs; }
+	SLATE_API void Construct(const FArguments& InArgs);
 
 	EMenuRow GetKind() const { return Row._Kind; }
 
@@ -56,8 +56,11 @@ public:
 	SLATE_API void Click();
 
 	/** Leaves the menus open. */
-	void ClickCheckBox() { Row._Action.Execute(); }
+	void ClickCheckBox() { CheckBox->ToggleCheckedState(); }
 
 private:
 	FArguments Row;
+
+	/** Of a toggle. */
+	TSharedPtr<SCheckBox> CheckBox;
 };

@@ -58,6 +58,8 @@ public:                                                                         
 template <class WidgetType>
 struct TSlateDecl
 {
+	explicit TSlateDecl(const TCHAR* Type = TEXT("")) { Widget->Type = FName(Type); }
+
 	/** Lets the pointer own the widget before it is constructed. */
 	template <class ExposeAsWidgetType>
 	TSlateDecl& Expose(TSharedPtr<ExposeAsWidgetType>& OutVarToInit)
@@ -76,7 +78,8 @@ struct TSlateDecl
 	const TSharedRef<WidgetType> Widget = MakeShared<WidgetType>();
 };
 
-#define SNew(WidgetType) TSlateDecl<WidgetType>() <<= WidgetType::FArguments()
+#define SNew(WidgetType) TSlateDecl<WidgetType>(TEXT(#WidgetType)) <<= WidgetType::FArguments()
 
 /** As above; the pointer is set before Construct runs. */
-#define SAssignNew(ExposeAs, WidgetType) TSlateDecl<WidgetType>().Expose(ExposeAs) <<= WidgetType::FArguments()
+#define SAssignNew(ExposeAs, WidgetType)                                                                               \
+	TSlateDecl<WidgetType>(TEXT(#WidgetType)).Expose(ExposeAs) <<= WidgetType::FArguments()

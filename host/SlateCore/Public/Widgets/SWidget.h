@@ -6,6 +6,21 @@
 
 #include <functional>
 
+class SWidget;
+
+/** The children of a widget, in their order. */
+class FChildren
+{
+public:
+	explicit FChildren(const SWidget& InOwner) : Owner(InOwner) {}
+
+	SLATECORE_API int32 Num() const;
+	SLATECORE_API TSharedRef<SWidget> GetChildAt(int32 Index) const;
+
+private:
+	const SWidget& Owner;
+};
+
 /** The base of all widgets; always owned by shared pointers. */
 class SWidget : public TSharedFromThis<SWidget>
 {
@@ -18,6 +33,11 @@ public:
 	/** A frame. */
 	SLATECORE_API void ExecuteActiveTimers();
 
+	/** What it was made as, such as "SCheckBox". */
+	FName GetType() const { return Type; }
+
+	FChildren* GetChildren() { return &Children; }
+
 	/** The slots in their order, the empty ones too. */
 	virtual TArray<const FSlotBase*> GetSlots() const { return {}; }
 
@@ -25,5 +45,10 @@ public:
 	SLATECORE_API void ForEachWidget(const std::function<void(SWidget&)>& Function);
 
 private:
+	template <class WidgetType>
+	friend struct TSlateDecl;
+
+	FName Type;
+	FChildren Children{*this};
 	TArray<FWidgetActiveTimerDelegate> ActiveTimers;
 };

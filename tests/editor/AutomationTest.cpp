@@ -1,0 +1,44 @@
+// Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+// The tests that run in the engine too, from the same source, in one session.
+#include "Host/AutomationTests.h"
+#include "LookTest.h"
+
+class Automation : public FLookTest
+{
+protected:
+	Automation() { Options.PluginFolders.Add(TEXT(EDITOR_TEST_PLUGINS) TEXT("/../engine-tests")); }
+};
+
+TEST_F(Automation, TestsOfThePluginPassInASession)
+{
+	StartWithPanes();
+	const TArray<FAutomationTestBase*> Tests = HostAutomation::GetTests();
+	EXPECT_GE(Tests.Num(), 6);
+	for (FAutomationTestBase* Test : Tests)
+	{
+		for (const FString& Error : Test->Run())
+		{
+			ADD_FAILURE() << TCHAR_TO_UTF8(*Test->GetTestFullName()) << ": " << TCHAR_TO_UTF8(*Error);
+		}
+	}
+	EXPECT_FALSE(FModuleManager::Get().IsModuleLoaded("TonalithEditor")) << "the last one unloads it";
+}
+
+TEST_F(Automation, TestsOfThePluginSeeWhenItIsGone)
+{
+	StartWithPanes();
+	const TArray<FAutomationTestBase*> Tests = HostAutomation::GetTests();
+	ASSERT_FALSE(Tests.IsEmpty());
+	Tests.Last()->Run();
+	FLines Passed;
+	for (FAutomationTestBase* Test : Tests)
+	{
+		if (Test->Run().IsEmpty())
+		{
+			Passed.push_back(TCHAR_TO_UTF8(*Test->GetTestFullName()));
+		}
+	}
+	EXPECT_THAT(Passed,
+		testing::ElementsAre("Tonalith.Assets.TheFactoryMakesLooks", "Tonalith.Files.ALookComesBackFromItsCube"))
+		<< "these need classes alone, which stay";
+}
