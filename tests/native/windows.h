@@ -4,7 +4,7 @@
 
 #include <ctime>
 #include <mutex>
-#include <semaphore>
+#include <semaphore.h>
 
 using HANDLE = void*;
 using DWORD = unsigned long;
@@ -29,24 +29,29 @@ inline void LeaveCriticalSection(CRITICAL_SECTION* section)
 	section->unlock();
 }
 
+// Not the standard library's semaphore: a release of that may wake nobody.
 inline HANDLE CreateSemaphoreW(const void*, long count, long, const wchar_t*)
 {
-	return new std::counting_semaphore<>(count);
+	auto* const semaphore = new sem_t;
+	sem_init(semaphore, 0, static_cast<unsigned>(count));
+	return semaphore;
 }
 
 inline void WaitForSingleObject(HANDLE semaphore, DWORD)
 {
-	static_cast<std::counting_semaphore<>*>(semaphore)->acquire();
+	while (sem_wait(static_cast<sem_t*>(semaphore)) != 0)
+	{
+	}
 }
 
-inline void ReleaseSemaphore(HANDLE semaphore, long count, long*)
+inline void ReleaseSemaphore(HANDLE semaphore, long, long*)
 {
-	static_cast<std::counting_semaphore<>*>(semaphore)->release(count);
+	sem_post(static_cast<sem_t*>(semaphore));
 }
 
 inline void CloseHandle(HANDLE semaphore)
 {
-	delete static_cast<std::counting_semaphore<>*>(semaphore);
+	delete static_cast<sem_t*>(semaphore);
 }
 
 inline DWORD GetLastError()

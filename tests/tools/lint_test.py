@@ -76,6 +76,7 @@ class LintTest(unittest.TestCase):
 			(source, SOURCE + '#include "Host/Trace.h"\n', f"{source}:6: plug-ins must not include"),
 			(source, SOURCE + "#include <windows.h>\n", f"{source}:6: a platform header stands between"),
 			(source, SOURCE + ALLOW + HIDE + "\n#include <shlobj.h>\n", f"{source}:10: a platform header stands between"),
+			("common/url/src/Two.cpp", SOURCE + "#include <shlobj.h>\n", "common/url/src/Two.cpp:6: the library reaches"),
 			("CMakeLists.txt", f"# {MARK}\nset(CMAKE_UNITY_BUILD ON)\n", "CMakeLists.txt:2: own files are compiled"),
 			("CMakePresets.json", '{\n"CMAKE_UNITY_BUILD": true}\n', "CMakePresets.json:2: own files are compiled"),
 			("CMakeLists.txt", f"# {MARK}\ntarget_precompile_headers(x y)\n", "CMakeLists.txt:2: the product's files"),
@@ -104,6 +105,8 @@ class LintTest(unittest.TestCase):
 			("Plugins/Look/Source/Two.cpp", SOURCE + ALLOW + "#include <shlobj.h>\n\n" + HIDE),
 			("Plugins/Look/Source/Two.cpp", SOURCE + "#include <kiln/Two.h>\n#include <string>\n"),
 			("host/Two.h", f"// {MARK}\n#include <windows.h>\n"),
+			("common/platform/Platform.h", f"// {MARK}\n#include <windows.h>\n"),
+			("common/examples/Two.cpp", SOURCE + "#include <windows.h>\n"),
 			("tools/do", "no first line of a script\n"),
 			("host/Look.uplugin", "{}"),
 		):

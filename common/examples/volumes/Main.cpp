@@ -8,18 +8,17 @@
 #include <kiln/Unicode.h>
 #include <kiln/VolumeEventMonitor.h>
 #include <kiln/VolumeNotification.h>
-#include <semaphore>
 #include <system_error>
 #include <windows.h>
 
 namespace
 {
-std::binary_semaphore isInterrupted{0};
+/** Stays set, however often the user interrupts. */
+const HANDLE isInterrupted = CreateEventW(nullptr, TRUE, FALSE, nullptr);
 
 BOOL WINAPI interrupt(DWORD)
 {
-	isInterrupted.release();
-	return TRUE;
+	return SetEvent(isInterrupted);
 }
 
 void print(const json::UnknownElement& element)
@@ -79,7 +78,7 @@ void watch()
 	monitor.addObserver(&printer);
 	SetConsoleCtrlHandler(interrupt, TRUE);
 	monitor.start();
-	isInterrupted.acquire();
+	WaitForSingleObject(isInterrupted, INFINITE);
 }
 } // namespace
 

@@ -1,9 +1,9 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "Handle.h"
+#include "../../platform/Handle.h"
+#include "../../platform/PlatformParts.h"
 #include <kiln/Access.h>
 #include <kiln/Paths.h>
 #include <kiln/Unicode.h>
-#include <lmcons.h>
 #include <vector>
 
 namespace Kiln

@@ -1,10 +1,9 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "Handle.h"
+#include "../../platform/Handle.h"
+#include "../../platform/PlatformParts.h"
 #include <kiln/Drives.h>
 #include <kiln/Paths.h>
 #include <kiln/Unicode.h>
-#include <shlwapi.h>
-#include <winioctl.h>
 
 namespace Kiln
 {

@@ -1,14 +1,8 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "../../platform/ItemList.h"
 #include <kiln/FileActionHelper.h>
 #include <kiln/Paths.h>
 #include <kiln/Unicode.h>
-#include <memory>
-#include <windows.h>
-// These rest on windows.h.
-#include <objbase.h>
-#include <shellapi.h>
-#include <shlobj.h>
-#include <shlwapi.h>
 
 namespace Kiln
 {
@@ -18,15 +12,15 @@ constexpr FILEOP_FLAGS recycleFlags =
 	FOF_SILENT | FOF_NOCONFIRMATION | FOF_ALLOWUNDO | FOF_NOCONFIRMMKDIR | FOF_NOERRORUI | FOF_NORECURSION;
 static_assert(recycleFlags == 0x1654);
 
-/** COM on this thread for a scope. A thread that uses it in another way already does as well. */
+/** COM on this thread for a scope, as the shell's calls want it. A thread that uses it in another way already does as well. */
 class ComScope
 {
 public:
-	ComScope() : result(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE)) {}
+	ComScope() : result_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE)) {}
 
 	~ComScope()
 	{
-		if (SUCCEEDED(result))
+		if (SUCCEEDED(result_))
 		{
 			CoUninitialize();
 		}
@@ -36,12 +30,7 @@ public:
 	ComScope& operator=(const ComScope&) = delete;
 
 private:
-	const HRESULT result;
-};
-
-struct ItemListFreer
-{
-	void operator()(ITEMIDLIST* list) const { ILFree(list); }
+	const HRESULT result_;
 };
 
 bool holdsNul(const std::string& text)
@@ -49,11 +38,14 @@ bool holdsNul(const std::string& text)
 	return text.find('\0') != text.npos;
 }
 
-/** Whether the last name is of dots and blanks alone: the platform takes such a path for the folder above. */
+/**
+ * Whether the last name is of dots and blanks alone: the platform takes such a path for the folder above. So it takes a drive
+ * alone for that drive's current folder.
+ */
 bool endsInNoName(const std::string& path)
 {
 	const std::string names = path.substr(0, path.find_last_not_of("/\\") + 1);
-	return names.find_first_not_of(" .", names.find_last_of("/\\") + 1) == names.npos;
+	return names.find_first_not_of(" .", names.find_last_of("/\\:") + 1) == names.npos;
 }
 
 /** An optional text for the shell, which takes null for none. */
@@ -76,6 +68,7 @@ bool FileActionHelper::openDocument(const std::string& path, const std::string& 
 		return false;
 	}
 	const std::wstring wideParameters = toWide(parameters);
+	const ComScope com;
 	const HINSTANCE result =
 		ShellExecuteW(nullptr, L"open", document.c_str(), orNull(wideParameters), nullptr, SW_SHOWNORMAL);
 	return reinterpret_cast<INT_PTR>(result) > 32;
@@ -89,7 +82,7 @@ bool FileActionHelper::revealInFolder(const std::string& path)
 		return false;
 	}
 	const ComScope com;
-	const std::unique_ptr<ITEMIDLIST, ItemListFreer> item(ILCreateFromPathW(file.c_str()));
+	const ItemList item(ILCreateFromPathW(file.c_str()));
 	return item && SUCCEEDED(SHOpenFolderAndSelectItems(item.get(), 0, nullptr, 0));
 }
 
@@ -111,6 +104,7 @@ bool FileActionHelper::runProgram(
 	launch.lpParameters = orNull(wideParameters);
 	launch.lpDirectory = orNull(wideDirectory);
 	launch.nShow = SW_SHOW;
+	const ComScope com;
 	if (!ShellExecuteExW(&launch))
 	{
 		return false;

@@ -1,5 +1,5 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "Handle.h"
+#include "../../platform/Handle.h"
 #include <algorithm>
 #include <boost/filesystem.hpp>
 #include <cstdio>
@@ -11,9 +11,19 @@ namespace Kiln
 {
 namespace
 {
+/** By the platform's count alone. */
+std::int64_t countedSeconds(const FILETIME& time)
+{
+	constexpr std::int64_t ticksPerSecond = 10'000'000;
+	constexpr std::int64_t epoch = 11'644'473'600; // in seconds since 1601
+	const std::uint64_t ticks = std::uint64_t{time.dwHighDateTime} << 32 | time.dwLowDateTime;
+	return static_cast<std::int64_t>(ticks / ticksPerSecond) - epoch;
+}
+
 /**
  * The platform makes local times with the offset of today, not of the date. Telling the C library which of the two it was
- * makes it take off the same offset.
+ * makes it take off the same offset. What has no local time that the C library knows, in the epoch's first hours and a
+ * thousand years later, is counted.
  */
 std::int64_t secondsSinceEpoch(const FILETIME& time)
 {
@@ -32,7 +42,8 @@ std::int64_t secondsSinceEpoch(const FILETIME& time)
 	calendar.tm_min = parts.wMinute;
 	calendar.tm_sec = parts.wSecond;
 	calendar.tm_isdst = GetTimeZoneInformation(&zone) == TIME_ZONE_ID_DAYLIGHT;
-	return std::max<std::int64_t>(std::mktime(&calendar), 0);
+	const std::time_t seconds = std::mktime(&calendar);
+	return std::max<std::int64_t>(seconds == -1 ? countedSeconds(time) : seconds, 0);
 }
 
 struct FileTimes

@@ -3,6 +3,7 @@
 #include <kiln/FileStreams.h>
 #include <kiln/Paths.h>
 
+// The standard streams take a wide path by no other type, on all compilers.
 namespace Kiln
 {
 std::ifstream openInput(const std::string& path, std::ios::openmode mode)

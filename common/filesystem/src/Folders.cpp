@@ -1,4 +1,5 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "../../platform/Platform.h"
 #include <algorithm>
 #include <boost/filesystem.hpp>
 #include <kiln/Folders.h>
@@ -12,12 +13,38 @@ namespace fs = boost::filesystem;
 
 namespace
 {
-/** Boost's own errors name its functions otherwise. */
+/** The system's own text for an error; Boost's is in the code page. */
+std::string messageOf(const boost::system::error_code& error)
+{
+	wchar_t text[512];
+	constexpr DWORD flags = FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | FORMAT_MESSAGE_MAX_WIDTH_MASK;
+	const auto code = static_cast<DWORD>(error.value());
+	const DWORD length = FormatMessageW(flags, nullptr, code, 0, text, DWORD{std::size(text)}, nullptr);
+	const std::string message = toUtf8({text, length});
+	return message.substr(0, message.find_last_not_of(' ') + 1);
+}
+
+/** An error of Boost's, but for its text, which is UTF-8. */
+class FolderError : public fs::filesystem_error
+{
+public:
+	FolderError(const std::string& operation, const fs::path& path, const boost::system::error_code& error)
+		: filesystem_error(operation, path, error)
+		, text_(operation + ": " + messageOf(error) + ": \"" + toUtf8(path.native()) + "\"")
+	{
+	}
+
+	const char* what() const noexcept override { return text_.c_str(); }
+
+private:
+	std::string text_;
+};
+
 void throwOn(const boost::system::error_code& error, const char* operation, const fs::path& path)
 {
 	if (error)
 	{
-		throw fs::filesystem_error(operation, path, error);
+		throw FolderError(operation, path, error);
 	}
 }
 

@@ -1,9 +1,9 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "../../platform/Platform.h"
 #include <algorithm>
 #include <kiln/Paths.h>
 #include <kiln/Unicode.h>
 #include <string_view>
-#include <windows.h>
 
 namespace Kiln
 {
@@ -20,13 +20,13 @@ bool isLetter(char c)
 std::size_t rootLength(std::string_view path)
 {
 	const std::size_t drive = path.size() >= 2 && isLetter(path[0]) && path[1] == ':' ? 2 : 0;
-	return std::min(path.find_first_not_of(separators, drive), path.size());
+	return (std::min)(path.find_first_not_of(separators, drive), path.size());
 }
 
 std::size_t nameBegin(std::string_view path)
 {
 	const std::size_t separator = path.find_last_of(separators);
-	return std::max(rootLength(path), separator == path.npos ? 0 : separator + 1);
+	return (std::max)(rootLength(path), separator == path.npos ? 0 : separator + 1);
 }
 
 /** Where the dot of the extension is; the path's size if there is none. */
@@ -41,7 +41,7 @@ std::size_t extensionBegin(std::string_view path)
 
 std::string extensionOf(const std::string& path)
 {
-	return path.substr(std::min(extensionBegin(path) + 1, path.size()));
+	return path.substr((std::min)(extensionBegin(path) + 1, path.size()));
 }
 
 std::string stemOf(const std::string& path, bool keepParent)
@@ -54,7 +54,7 @@ std::string parentOf(const std::string& path)
 {
 	const std::string_view before = std::string_view(path).substr(0, nameBegin(path));
 	const std::size_t last = before.find_last_not_of(separators);
-	return path.substr(0, std::max(rootLength(path), last == before.npos ? 0 : last + 1));
+	return path.substr(0, (std::max)(rootLength(path), last == before.npos ? 0 : last + 1));
 }
 
 std::string absolutePath(const std::string& path)

@@ -1,7 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "../../platform/Platform.h"
 #include <kiln/Unicode.h>
 #include <limits>
-#include <windows.h>
 
 namespace Kiln
 {
@@ -11,7 +11,7 @@ namespace
 template <class Out, class In, class Convert>
 Out convertTwice(In in, Convert convert)
 {
-	constexpr auto longest = static_cast<std::size_t>(std::numeric_limits<int>::max());
+	constexpr auto longest = static_cast<std::size_t>((std::numeric_limits<int>::max)());
 	if (in.empty() || in.size() > longest)
 	{
 		return {};

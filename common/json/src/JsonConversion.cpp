@@ -1,11 +1,12 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include <cajun/json/detail/walk.h>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <kiln/CajunTypeResolver.h>
 #include <kiln/JsonConversion.h>
+#include <rapidjson/document.h>
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace Kiln
@@ -25,8 +26,7 @@ public:
 
 	void read(const json::Object& object)
 	{
-		out_.StartObject();
-		walk_.Enter(object);
+		enter(object);
 		readInside();
 	}
 
@@ -37,31 +37,56 @@ public:
 	}
 
 private:
-	void readInside()
+	/** An object or array under way: what is left of it. */
+	template <class Container>
+	struct Level
 	{
-		while (walk_.Depth() > 0)
+		const Container& container;
+		typename Container::const_iterator next = container.Begin();
+	};
+
+	void enter(const json::Object& object)
+	{
+		out_.StartObject();
+		levels_.push_back(Level<json::Object>{object});
+	}
+
+	void enter(const json::Array& array)
+	{
+		out_.StartArray();
+		levels_.push_back(Level<json::Array>{array});
+	}
+
+	/** May end the level or begin another; the reference is of no use afterwards. */
+	template <class Container>
+	void putNext(Level<Container>& level)
+	{
+		if (level.next == level.container.End())
 		{
-			const json::Walk::Item item = walk_.Next();
-			if (item.name)
-			{
-				out_.Key(item.name->data(), static_cast<rapidjson::SizeType>(item.name->size()), true);
-			}
-			if (item.element)
-			{
-				put(*item.element);
-			}
-			else
-			{
-				leave();
-			}
+			leave(level.container);
+			levels_.pop_back();
+		}
+		else
+		{
+			put(*level.next++);
 		}
 	}
 
-	void leave()
+	void leave(const json::Object& object) { out_.EndObject(static_cast<rapidjson::SizeType>(object.Size())); }
+	void leave(const json::Array& array) { out_.EndArray(static_cast<rapidjson::SizeType>(array.Size())); }
+
+	void readInside()
 	{
-		const auto size = static_cast<rapidjson::SizeType>(walk_.Size());
-		walk_.IsInObject() ? out_.EndObject(size) : out_.EndArray(size);
-		walk_.Leave();
+		while (!levels_.empty())
+		{
+			std::visit([this](auto& level) { putNext(level); }, levels_.back());
+		}
+	}
+
+	void put(const json::Object::Member& member)
+	{
+		out_.Key(member.name.data(), static_cast<rapidjson::SizeType>(member.name.size()), true);
+		put(member.element);
 	}
 
 	void put(const json::UnknownElement& element)
@@ -70,13 +95,11 @@ private:
 		element.Accept(kind);
 		if (kind.isObject)
 		{
-			out_.StartObject();
-			walk_.Enter(static_cast<const json::Object&>(element));
+			enter(static_cast<const json::Object&>(element));
 		}
 		else if (kind.isArray)
 		{
-			out_.StartArray();
-			walk_.Enter(static_cast<const json::Array&>(element));
+			enter(static_cast<const json::Array&>(element));
 		}
 		else if (kind.isString)
 		{
@@ -116,7 +139,7 @@ private:
 	}
 
 	rapidjson::Document& out_;
-	json::Walk walk_;
+	std::vector<std::variant<Level<json::Object>, Level<json::Array>>> levels_;
 };
 
 template <class In>

@@ -27,12 +27,12 @@ LocaleName::LocaleName(const std::string& name)
 {
 	std::string text = lowerCase(name);
 	std::replace(text.begin(), text.end(), '_', '-');
-	const size_t languageEnd = std::min(text.find('-'), text.size());
-	const size_t regionBegin = std::min(languageEnd + 1, text.size());
-	const size_t regionEnd = std::min(text.find('-', regionBegin), text.size());
+	const size_t languageEnd = (std::min)(text.find('-'), text.size());
+	const size_t regionBegin = (std::min)(languageEnd + 1, text.size());
+	const size_t regionEnd = (std::min)(text.find('-', regionBegin), text.size());
 	language = text.substr(0, languageEnd);
 	region = text.substr(regionBegin, regionEnd - regionBegin);
-	variant = text.substr(std::min(regionEnd + 1, text.size()));
+	variant = text.substr((std::min)(regionEnd + 1, text.size()));
 }
 
 FileChoice chooseFile(const std::vector<std::string>& names, const std::string& prefix, const std::string& locale)

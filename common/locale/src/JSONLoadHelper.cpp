@@ -1,5 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include <kiln/JSONLoadHelper.h>
+#include <rapidjson/document.h>
 #include <vector>
 
 namespace Kiln::Locale

@@ -55,7 +55,8 @@ StringTable& JSONLoader::load(StringTable& result, const std::string&)
 		return result;
 	}
 	skipByteOrderMark(file);
-	BufferedInputStream input(file);
+	// A number that nobody reads is no reason to lose the texts.
+	BufferedInputStream input(file, BufferedInputStream::Numbers::ignored);
 	rapidjson::Document document;
 	document.ParseStream<rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag>(input);
 	if (document.HasParseError())

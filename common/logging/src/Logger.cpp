@@ -63,13 +63,14 @@ LoggingComponent* Logger::component(const std::string& name)
 	{
 		return known->second.get();
 	}
-	LoggingComponent& created = findOrCreate(name);
+	// Entered last: what fails before leaves no half-made component.
+	auto created = std::make_unique<LoggingComponent>(*this, name);
 	if (OpenFile* const file = openFile(fileOf(name)))
 	{
-		created.setStream(file->stream, file->lock);
+		created->setStream(file->stream, file->lock);
 	}
-	created.setLevel(defaultLevel_);
-	return &created;
+	created->setLevel(defaultLevel_);
+	return components_.emplace(name, std::move(created)).first->second.get();
 }
 
 bool Logger::removeComponent(LoggingComponent* component)
@@ -124,16 +125,6 @@ void Logger::closeAllFiles()
 	openFiles_.clear();
 }
 
-LoggingComponent& Logger::findOrCreate(const std::string& name)
-{
-	std::unique_ptr<LoggingComponent>& component = components_[name];
-	if (!component)
-	{
-		component = std::make_unique<LoggingComponent>(*this, name);
-	}
-	return *component;
-}
-
 const std::string& Logger::fileOf(const std::string& name)
 {
 	const auto own = componentFiles_.find(name);
@@ -142,6 +133,10 @@ const std::string& Logger::fileOf(const std::string& name)
 
 Logger::OpenFile* Logger::openFile(const std::string& path)
 {
+	if (path.empty())
+	{
+		return nullptr;
+	}
 	const std::string key = pathKey(path);
 	if (const auto known = openFiles_.find(key); known != openFiles_.end())
 	{
@@ -162,8 +157,12 @@ Logger::OpenFile* Logger::openFile(const std::string& path)
 void Logger::redirect(const std::string& name, std::ostream& console)
 {
 	const LockGuard guard(registryLock_);
-	LoggingComponent& component = findOrCreate(name);
-	component.setStream(console, consoleLock_);
-	component.setLevel(defaultLevel_);
+	auto known = components_.find(name);
+	if (known == components_.end())
+	{
+		known = components_.emplace(name, std::make_unique<LoggingComponent>(*this, name)).first;
+	}
+	known->second->setStream(console, consoleLock_);
+	known->second->setLevel(defaultLevel_);
 }
 } // namespace Kiln

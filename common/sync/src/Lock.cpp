@@ -1,8 +1,8 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "../../platform/Platform.h"
 #include <kiln/Lock.h>
 #include <new>
 #include <system_error>
-#include <windows.h>
 
 namespace Kiln
 {

@@ -1,10 +1,10 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "../../platform/PlatformParts.h"
 #include <algorithm>
 #include <array>
 #include <kiln/Url.h>
-#include <shlwapi.h>
+
 #include <string_view>
-#include <windows.h>
 
 namespace Kiln
 {

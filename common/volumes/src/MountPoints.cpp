@@ -1,10 +1,10 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "../../platform/Platform.h"
 #include "VolumeLog.h"
 #include <algorithm>
 #include <kiln/Drives.h>
 #include <kiln/Unicode.h>
 #include <kiln/VolumeEventMonitor.h>
-#include <windows.h>
 
 namespace Kiln
 {
@@ -56,8 +56,7 @@ void appendLocalVolumes(std::vector<std::string>& out)
 	const HANDLE search = FindFirstVolumeW(name, nameRoom);
 	if (search == INVALID_HANDLE_VALUE)
 	{
-		VolumeLog::warn("Failed to list attached volumes: FindFirstVolume() failed with error code " +
-						std::to_string(GetLastError()));
+		VolumeLog::warn("Failed to list attached volumes: FindFirstVolume() failed with error code ", GetLastError());
 		return;
 	}
 	const std::unique_ptr<void, SearchCloser> closer(search);
@@ -66,12 +65,12 @@ void appendLocalVolumes(std::vector<std::string>& out)
 		const std::string volume = toUtf8(name);
 		if (!appendMountPaths(volume, out))
 		{
-			VolumeLog::warn("Failed to enumerate mount points for volume '" + volume + "'");
+			VolumeLog::warn("Failed to enumerate mount points for volume '", volume, "'");
 		}
 	} while (FindNextVolumeW(search, name, nameRoom));
 	if (const DWORD error = GetLastError(); error != ERROR_NO_MORE_FILES)
 	{
-		VolumeLog::warn("Failed to retrieve volume: FindNextVolume() failed with error code " + std::to_string(error));
+		VolumeLog::warn("Failed to retrieve volume: FindNextVolume() failed with error code ", error);
 	}
 }
 

@@ -1,7 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "ShellChange.h"
 #include <cstring>
-#include <shobjidl.h>
 
 namespace Kiln
 {
@@ -10,20 +9,25 @@ namespace
 constexpr int sources = SHCNRF_InterruptLevel | SHCNRF_ShellLevel | SHCNRF_NewDelivery;
 constexpr LONG events = SHCNE_MEDIAINSERTED | SHCNE_MEDIAREMOVED | SHCNE_DRIVEREMOVED | SHCNE_DRIVEADD;
 
+struct TextFreer
+{
+	void operator()(wchar_t* text) const { CoTaskMemFree(text); }
+};
+
 struct InterfaceReleaser
 {
 	void operator()(IUnknown* object) const { object->Release(); }
 };
 } // namespace
 
-ShellPointer<ITEMIDLIST> computerFolder()
+ItemList computerFolder()
 {
 	PIDLIST_ABSOLUTE folder = nullptr;
 	const HRESULT result = SHGetFolderLocation(nullptr, CSIDL_DRIVES, nullptr, 0, &folder);
-	return ShellPointer<ITEMIDLIST>(SUCCEEDED(result) ? folder : nullptr);
+	return ItemList(SUCCEEDED(result) ? folder : nullptr);
 }
 
-ULONG registerForShellChanges(HWND window, const ITEMIDLIST* folder)
+ULONG registerForShellChanges(HWND window, PCIDLIST_ABSOLUTE folder)
 {
 	SHChangeNotifyEntry entry{};
 	entry.pidl = folder;
@@ -31,10 +35,10 @@ ULONG registerForShellChanges(HWND window, const ITEMIDLIST* folder)
 	return SHChangeNotifyRegister(window, sources, events, shellChangeMessage, 1, &entry);
 }
 
-ShellChange::ShellChange(WPARAM wide, LPARAM low)
+ShellChange::ShellChange(WPARAM first, LPARAM second)
 {
 	PIDLIST_ABSOLUTE* items = nullptr;
-	lock_ = SHChangeNotification_Lock(reinterpret_cast<HANDLE>(wide), static_cast<DWORD>(low), &items, &event_);
+	lock_ = SHChangeNotification_Lock(reinterpret_cast<HANDLE>(first), static_cast<DWORD>(second), &items, &event_);
 	if (lock_ && items)
 	{
 		// The shell's memory need not be aligned for pointers.
@@ -69,6 +73,6 @@ std::optional<std::wstring> ShellChange::path() const
 	{
 		return {};
 	}
-	return ShellPointer<wchar_t>(text).get();
+	return std::unique_ptr<wchar_t, TextFreer>(text).get();
 }
 } // namespace Kiln

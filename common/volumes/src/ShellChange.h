@@ -2,9 +2,8 @@
 // What the shell tells a window of drives and media.
 #pragma once
 
-#include <memory>
+#include "../../platform/ItemList.h"
 #include <optional>
-#include <shlobj.h>
 #include <string>
 
 namespace Kiln
@@ -12,26 +11,17 @@ namespace Kiln
 /** The message by which a window is told. */
 constexpr UINT shellChangeMessage = WM_USER + 200;
 
-struct ShellDeleter
-{
-	void operator()(void* memory) const { CoTaskMemFree(memory); }
-};
-
-/** Owns what the shell allocated. */
-template <class Held>
-using ShellPointer = std::unique_ptr<Held, ShellDeleter>;
-
 /** The folder of all drives; null when the shell does not know it. */
-ShellPointer<ITEMIDLIST> computerFolder();
+ItemList computerFolder();
 
 /** Has a window told of drives and media that come and go in the folder. @return an identifier; 0 on failure */
-ULONG registerForShellChanges(HWND window, const ITEMIDLIST* folder);
+ULONG registerForShellChanges(HWND window, PCIDLIST_ABSOLUTE folder);
 
 /** A change, by the parameters of its message. The shell keeps it as long as the object lives. */
 class ShellChange
 {
 public:
-	ShellChange(WPARAM wide, LPARAM low);
+	ShellChange(WPARAM first, LPARAM second);
 
 	/** Leaves this thread without windows for critical errors. */
 	~ShellChange();

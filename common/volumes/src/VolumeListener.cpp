@@ -69,7 +69,7 @@ void VolumeEventMonitor::Listener::stop()
 bool VolumeEventMonitor::Listener::postQuit()
 {
 	const LockGuard guard(lock_);
-	return !window_ || PostMessageW(window_, WM_QUIT, 0, 0);
+	return !window_ || PostMessageW(window_, WM_QUIT, 0, 0) || GetLastError() != ERROR_NOT_ENOUGH_QUOTA;
 }
 
 void VolumeEventMonitor::Listener::run()
@@ -129,7 +129,7 @@ bool VolumeEventMonitor::Listener::registerClass()
 /** @return false when the shell refuses; without a folder to watch, there is nothing that it could refuse */
 bool VolumeEventMonitor::Listener::registerWithShell(HWND window)
 {
-	const ShellPointer<ITEMIDLIST> folder = computerFolder();
+	const ItemList folder = computerFolder();
 	const LockGuard guard(lock_);
 	if (!folder || isStopping_)
 	{
@@ -163,33 +163,29 @@ void VolumeEventMonitor::Listener::reportPresentVolumes()
 	}
 }
 
-LRESULT CALLBACK VolumeEventMonitor::Listener::windowProcedure(HWND window, UINT message, WPARAM wide, LPARAM low)
+LRESULT CALLBACK VolumeEventMonitor::Listener::windowProcedure(HWND window, UINT message, WPARAM first, LPARAM second)
 {
 	if (message == WM_NCCREATE)
 	{
-		const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(low);
+		const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(second);
 		SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creation->lpCreateParams));
 	}
 	auto* monitor = reinterpret_cast<VolumeEventMonitor*>(GetWindowLongPtrW(window, GWLP_USERDATA));
 	if (!monitor)
 	{
-		contained(
-			[&] {
-				VolumeLog::warn(
-					"Ignoring message of type " + std::to_string(message) + "; no valid VolumeEventMonitor instance");
-			});
+		VolumeLog::warn("Ignoring message of type ", message, "; no valid VolumeEventMonitor instance");
 		return 0;
 	}
 	if (message == shellChangeMessage)
 	{
-		contained([&] { monitor->listener_->handleChange(wide, low); });
+		contained([&] { monitor->listener_->handleChange(first, second); });
 	}
 	return 1;
 }
 
-void VolumeEventMonitor::Listener::handleChange(WPARAM wide, LPARAM low)
+void VolumeEventMonitor::Listener::handleChange(WPARAM first, LPARAM second)
 {
-	const ShellChange change(wide, low);
+	const ShellChange change(first, second);
 	const std::optional<std::wstring> path = change.path();
 	if (!path || isStopping_)
 	{

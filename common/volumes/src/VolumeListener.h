@@ -1,11 +1,11 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #pragma once
 
+#include "../../platform/Platform.h"
 #include "VolumeLog.h"
 #include <atomic>
 #include <kiln/VolumeEventMonitor.h>
 #include <thread>
-#include <windows.h>
 
 namespace Kiln
 {
@@ -33,14 +33,14 @@ private:
 	bool registerWithShell(HWND window);
 	void setWindow(HWND window);
 
-	/** @return false when the window's message queue is full */
+	/** @return false when the window's message queue is full; a window that is gone has gone with its thread */
 	bool postQuit();
 
 	void reportPresentVolumes();
-	void handleChange(WPARAM wide, LPARAM low);
+	void handleChange(WPARAM first, LPARAM second);
 	void reportMounted(const std::wstring& path);
 	void reportUnmounted(const std::wstring& path);
-	static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM wide, LPARAM low);
+	static LRESULT CALLBACK windowProcedure(HWND window, UINT message, WPARAM first, LPARAM second);
 
 	const VolumeLog log_;
 	VolumeEventMonitor& monitor_;

@@ -1,26 +1,21 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "VolumeLog.h"
-#include "Contained.h"
 #include <kiln/LockGuard.h>
-#include <kiln/Logger.h>
-#include <sstream>
 
 namespace Kiln
 {
 namespace
 {
-constexpr const char* componentName = "VolumeEventMonitor";
-
 struct Users
 {
 	Lock lock;
 	int count KILN_GUARDED_BY(lock) = 0;
 };
 
-/** Made with the first user, and so destroyed after those that live until the process ends. */
+/** Never destroyed: a monitor may live until the very end of the process. */
 Users& users()
 {
-	static Users all;
+	static Users& all = *new Users;
 	return all;
 }
 } // namespace
@@ -39,19 +34,5 @@ VolumeLog::~VolumeLog()
 	{
 		contained([] { Logger::instance().removeComponent(componentName); });
 	}
-}
-
-void VolumeLog::warn(const std::string& text) noexcept
-{
-	contained(
-		[&]
-		{
-			if (LoggingComponent* log = Logger::instance().component(componentName))
-			{
-				std::ostringstream line;
-				log->warning(line) << text;
-				log->log(line.str(), LogLevel::warning);
-			}
-		});
 }
 } // namespace Kiln

@@ -1,13 +1,13 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
+#include "../../platform/Handle.h"
+#include "../../platform/PlatformParts.h"
 #include "FileSystemNames.h"
-#include "Handle.h"
 #include <algorithm>
 #include <cstring>
 #include <kiln/Drives.h>
 #include <kiln/Unicode.h>
 #include <kiln/VolumeEventMonitor.h>
 #include <string_view>
-#include <winioctl.h>
 
 namespace Kiln
 {
@@ -119,7 +119,7 @@ void readDevice(int drive, VolumeInfo& volume)
 
 int VolumeEventMonitor::queryVolumeInfo(const std::wstring& path, VolumeInfo& out)
 {
-	const int drive = driveNumber(toUtf8(path));
+	const int drive = PathGetDriveNumberW(path.c_str());
 	if (drive < 0)
 	{
 		return drive & ~0xFF;

@@ -17,6 +17,14 @@ const std::string odd = "C:\\a b\\\"\xC3\xBC\" %TEMP% & -x /y.txt";
 const std::wstring wideOdd = L"C:\\a b\\\"\u00FC\" %TEMP% & -x /y.txt";
 const std::string nul("C:\\a\0b", 6);
 
+/** Whether COM is there on this thread. */
+bool hasCom()
+{
+	APTTYPE type{};
+	APTTYPEQUALIFIER qualifier{};
+	return SUCCEEDED(CoGetApartmentType(&type, &qualifier));
+}
+
 bool isText(const wchar_t* given, const std::optional<std::wstring>& expected)
 {
 	return given ? expected == given : !expected;
@@ -36,6 +44,7 @@ TEST(OpenDocument, GivesTheTextsAsTheyAre)
 			EXPECT_TRUE(isText(given, parameters));
 			EXPECT_EQ(directory, nullptr);
 			EXPECT_EQ(show, SW_SHOWNORMAL);
+			EXPECT_TRUE(hasCom());
 			return reinterpret_cast<HINSTANCE>(code);
 		});
 	EXPECT_TRUE(FileActionHelper::openDocument(odd));
@@ -44,7 +53,7 @@ TEST(OpenDocument, GivesTheTextsAsTheyAre)
 	code = SE_ERR_NOASSOC;
 	parameters = L"\"a b\" \u20AC %PATH%";
 	EXPECT_FALSE(FileActionHelper::openDocument(odd, "\"a b\" \xE2\x82\xAC %PATH%"));
-	EXPECT_EQ(shell.calls(), 3);
+	EXPECT_FALSE(hasCom());
 	EXPECT_FALSE(FileActionHelper::openDocument(""));
 	EXPECT_FALSE(FileActionHelper::openDocument(nul));
 	EXPECT_FALSE(FileActionHelper::openDocument(odd, nul));
@@ -65,6 +74,7 @@ TEST(RevealInFolder, SelectsTheFile)
 			EXPECT_EQ(count, 0u);
 			EXPECT_EQ(children, nullptr);
 			EXPECT_EQ(flags, 0u);
+			EXPECT_TRUE(hasCom());
 			return result;
 		});
 	const ImportOverride freed("ILFree", &ILFree, [real = &ILFree](LPITEMIDLIST item) { real(item); });
@@ -72,7 +82,6 @@ TEST(RevealInFolder, SelectsTheFile)
 	EXPECT_TRUE(FileActionHelper::revealInFolder(folder.path + "/./\xC3\xBC, b.txt"));
 	result = E_FAIL;
 	EXPECT_FALSE(FileActionHelper::revealInFolder(path));
-	EXPECT_EQ(shell.calls(), 3);
 	EXPECT_EQ(freed.calls(), 3);
 	for (const std::string& none : {folder / "missing", std::string(), nul})
 	{
@@ -100,6 +109,7 @@ TEST(RunProgram, FillsTheRequestByItsFlags)
 	{
 		for (const BOOL started : {TRUE, FALSE})
 		{
+			const HANDLE process = started && row.mask ? CreateEventW(nullptr, TRUE, TRUE, nullptr) : nullptr;
 			const ImportOverride shell("ShellExecuteExW", &ShellExecuteExW,
 				[&](SHELLEXECUTEINFOW* launch)
 				{
@@ -110,34 +120,17 @@ TEST(RunProgram, FillsTheRequestByItsFlags)
 					EXPECT_TRUE(isText(launch->lpParameters, row.wideParameters));
 					EXPECT_TRUE(isText(launch->lpDirectory, row.wideDirectory));
 					EXPECT_EQ(launch->nShow, 5);
+					EXPECT_TRUE(hasCom());
+					launch->hProcess = process;
 					return started;
 				});
 			EXPECT_EQ(FileActionHelper::runProgram(odd, row.parameters, row.directory, row.flags), started == TRUE);
+			EXPECT_TRUE(!process || isClosed(process));
 		}
 	}
 	EXPECT_FALSE(FileActionHelper::runProgram("", "", "", 0));
 	EXPECT_FALSE(FileActionHelper::runProgram("x", nul, "", 0));
 	EXPECT_FALSE(FileActionHelper::runProgram("x", "", nul, 0));
-}
-
-TEST(RunProgram, WaitsWithoutLimitAndClosesTheProcess)
-{
-	const HANDLE process = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-	const ImportOverride shell("ShellExecuteExW", &ShellExecuteExW,
-		[&](SHELLEXECUTEINFOW* launch)
-		{
-			launch->hProcess = process;
-			return TRUE;
-		});
-	const ImportOverride wait("WaitForSingleObject", &WaitForSingleObject,
-		[&](HANDLE handle, DWORD limit) -> DWORD
-		{
-			EXPECT_EQ(handle, process);
-			EXPECT_EQ(limit, INFINITE);
-			return WAIT_OBJECT_0;
-		});
-	EXPECT_TRUE(FileActionHelper::runProgram("x", "", "", FileActionHelper::WaitForEnd));
-	EXPECT_TRUE(isClosed(process));
 }
 
 TEST(RunProgram, ForReal)
@@ -191,9 +184,9 @@ TEST(RecycleBin, IsAskedForOnePathSilently)
 	EXPECT_TRUE(FileActionHelper::moveToRecycleBin("C:/a b/\xC3\xBC.txt"));
 	result = 2;
 	EXPECT_FALSE(FileActionHelper::moveToRecycleBin("C:\\a b\\\xC3\xBC.txt"));
-	EXPECT_EQ(shell.calls(), 2);
 	const std::string refused[] = {"", " ", ".", "...", "C:\\a\\ ", "C:/a/. ./", "/", "\\/\\", std::string(32'000, '/'),
-		"C:\\", "C:/..", "\\\\server\\share", "C:\\*", "C:\\a?", "\\\\?\\C:\\a", "C:\\" + std::string(300, 'a'), nul};
+		"C:\\", "C:/..", "C:", "c:.", "C: ..", "C:a/..", "\\\\server\\share", "C:\\*", "C:\\a?", "\\\\?\\C:\\a",
+		"C:\\" + std::string(300, 'a'), nul};
 	for (const std::string& path : refused)
 	{
 		EXPECT_FALSE(FileActionHelper::moveToRecycleBin(path)) << path;

@@ -61,15 +61,22 @@ TEST_F(FileTimes, AreSecondsSinceTheEpochInBothSeasons)
 TEST_F(FileTimes, CreationIsNotModification)
 {
 	const std::string path = folder.file("file");
-	const ImportOverride times("GetFileTime", &GetFileTime,
-		[](HANDLE, FILETIME* created, FILETIME*, FILETIME* modified) -> BOOL
-		{
-			*created = fileTime(january);
-			*modified = fileTime(july);
-			return TRUE;
-		});
-	EXPECT_EQ(Kiln::fileCreationTime(path), january);
-	EXPECT_EQ(Kiln::fileModificationTime(path), july);
+	// Also hours that west of Greenwich belong to 1969, and a year that the C library does not know.
+	constexpr std::int64_t early = 3'600;
+	constexpr std::int64_t late = 253'402'000'000;
+	for (const auto& [created, modified] : {std::pair(january, july), std::pair(early, late)})
+	{
+		const ImportOverride times("GetFileTime", &GetFileTime,
+			[first = fileTime(created), last = fileTime(modified)](
+				HANDLE, FILETIME* creation, FILETIME*, FILETIME* modification) -> BOOL
+			{
+				*creation = first;
+				*modification = last;
+				return TRUE;
+			});
+		EXPECT_EQ(Kiln::fileCreationTime(path), created);
+		EXPECT_EQ(Kiln::fileModificationTime(path), modified);
+	}
 }
 
 TEST_F(FileTimes, FoldersHaveThemDeniedFilesAndEarlierTimesAreZero)

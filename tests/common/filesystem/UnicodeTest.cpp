@@ -1,7 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 #include <kiln/Unicode.h>
-#include <random>
 
 namespace
 {
@@ -34,21 +33,6 @@ TEST(Unicode, InvalidInputIsReplaced)
 	}
 	EXPECT_EQ(Kiln::toUtf8(L"a\xD83Cz"), "a\xEF\xBF\xBDz");
 	EXPECT_EQ(Kiln::toUtf8(L"a\xDFA8"), "a\xEF\xBF\xBD");
-}
-
-TEST(Unicode, WhatWasConvertedOnceConvertsWithoutLoss)
-{
-	std::mt19937 random(1);
-	for (int round = 0; round < 300; ++round)
-	{
-		std::string bytes(random() % 40, '\0');
-		for (char& byte : bytes)
-		{
-			byte = static_cast<char>(random());
-		}
-		const std::wstring wide = Kiln::toWide(bytes);
-		EXPECT_EQ(Kiln::toWide(Kiln::toUtf8(wide)), wide);
-	}
 }
 
 TEST(Unicode, LowerCase)

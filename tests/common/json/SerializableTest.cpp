@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 #include <kiln/SerializableJsonObject.h>
 #include <sstream>
-#include <streambuf>
 #include <string>
 #include <utility>
 
@@ -20,10 +19,20 @@ SerializableJsonObject makeObject()
 
 constexpr const char* ObjectText = "{\n\t\"first\" : 1,\n\t\"second\" : {\n\t\t\"inside\" : \"a\\tb\\\"\"\n\t}\n}";
 
+/** What was flushed. */
 std::string textOf(const Kiln::Serializable& object)
 {
-	std::ostringstream stream;
-	return object.serialize(stream) ? stream.str() : "not serialised" + stream.str();
+	struct Buffer : std::stringbuf
+	{
+		int sync() override
+		{
+			flushed = str();
+			return 0;
+		}
+		std::string flushed;
+	} buffer;
+	std::ostream stream(&buffer);
+	return object.serialize(stream) ? buffer.flushed : "not serialised" + buffer.str();
 }
 
 TEST(Serializable, AnObjectThatWritesNothingIsNotSerialised)
@@ -46,22 +55,6 @@ TEST(Serializable, AnObjectThatWritesNothingIsNotSerialised)
 	EXPECT_FALSE(Empty().reserved());
 }
 
-TEST(Serializable, TheStreamIsFlushedAtTheEnd)
-{
-	struct Buffer : std::stringbuf
-	{
-		int sync() override
-		{
-			flushed = str();
-			return 0;
-		}
-		std::string flushed;
-	} buffer;
-	std::ostream stream(&buffer);
-	EXPECT_TRUE(makeObject().serialize(stream));
-	EXPECT_EQ(buffer.flushed, ObjectText);
-}
-
 TEST(SerializableJsonObject, ReplacesAllThatTheOtherHeld)
 {
 	const SerializableJsonObject object = makeObject();
@@ -74,29 +67,14 @@ TEST(SerializableJsonObject, ReplacesAllThatTheOtherHeld)
 	EXPECT_EQ(textOf(object), ObjectText) << "the copy is deep";
 }
 
-TEST(SerializableJsonObject, MayBeGivenItselfOrItsOwnPart)
-{
-	SerializableJsonObject object = makeObject();
-	EXPECT_TRUE(object.toJson(object));
-	EXPECT_EQ(textOf(object), ObjectText);
-	EXPECT_TRUE(object.toJson(object["second"]));
-	EXPECT_EQ(object["second"], json::Object(makeObject()));
-}
-
-TEST(SerializableJsonObject, TakesMembersOver)
+TEST(SerializableJsonObject, TakesMembersOverAndMayBeGivenItself)
 {
 	json::Object members = makeObject();
 	SerializableJsonObject object(std::move(members));
 	EXPECT_TRUE(members.Empty());
+	EXPECT_TRUE(object.toJson(object));
 	EXPECT_EQ(textOf(object), ObjectText);
-
-	SerializableJsonObject& same = object;
-	object = same;
-	EXPECT_EQ(textOf(object), ObjectText);
-	SerializableJsonObject moved = std::move(object);
-	EXPECT_EQ(textOf(object), "{}");
-	object["new"];
-	object = std::move(moved);
-	EXPECT_EQ(textOf(object), ObjectText);
+	EXPECT_TRUE(object.toJson(object["second"]));
+	EXPECT_EQ(object["second"], json::Object(makeObject()));
 }
 } // namespace

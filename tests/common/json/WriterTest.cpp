@@ -1,5 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include <cajun/json/writer.h>
+#include "JsonText.h"
+
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -14,13 +15,6 @@
 
 namespace
 {
-std::string textOf(const json::UnknownElement& element)
-{
-	std::ostringstream stream;
-	json::Writer::Write(element, stream);
-	return stream.str();
-}
-
 /** What a stream makes of a number with a precision of so many digits. */
 std::string printed(double value, int precision)
 {
@@ -69,8 +63,11 @@ TEST(Writer, LaysOutOneMemberALine)
 							"\t],\n"
 							"\t\"last\" : []\n"
 							"}");
-	EXPECT_EQ(textOf(json::Object()), "{}");
-	EXPECT_EQ(textOf(json::Array()), "[]");
+	std::ostringstream stream;
+	json::Writer::Write(json::Object(), stream);
+	json::Writer::Write(json::Array(), stream);
+	json::Writer::Write(json::Boolean(true), stream);
+	EXPECT_EQ(stream.str(), "{}[]true");
 }
 
 TEST(Writer, EscapesSevenBytesInTextsAndNames)
@@ -87,11 +84,6 @@ TEST(Writer, EscapesSevenBytesInTextsAndNames)
 		expected += at == std::string::npos ? std::string(1, byte) : std::string("\\") + "btnfr\"\\"[at];
 	}
 	EXPECT_EQ(textOf(json::String(every)), "\"" + expected + "\"");
-	json::Object object;
-	object[every];
-	EXPECT_EQ(textOf(object), "{\n\t\"" + expected + "\" : null\n}");
-	const std::string large(10'000, '"');
-	EXPECT_EQ(textOf(json::String(large)).size(), 20'002u);
 	const std::string plain(10'000, 'x');
 	EXPECT_EQ(textOf(json::String(plain)), "\"" + plain + "\"");
 }
@@ -100,32 +92,17 @@ TEST(Writer, WritesNumbersAsTheyRead)
 {
 	constexpr double Infinity = std::numeric_limits<double>::infinity();
 	const std::pair<json::Number, const char*> table[] = {
-		{0, "0"},
 		{-0.0, "-0"},
-		{-1, "-1"},
-		{0.1, "0.1"},
-		{-2.5, "-2.5"},
-		{1.0 / 3, "0.3333333333333333"},
 		{0.1 + 0.2, "0.30000000000000004"},
-		{0.0001, "0.0001"},
 		{0.000012, "1.2e-05"},
-		{999999999999999, "999999999999999"},
 		{1e15, "1e+15"},
 		{1125899906842625, "1125899906842625"},
-		{9007199254740991, "9007199254740991"},
-		{9007199254740992, "9007199254740992"},
-		{9007199254740994, "9007199254740994"},
 		{1152921504606846976.0, "1.152921504606847e+18"},
 		{{1152921504606846976.0, 20}, "1152921504606846976"},
-		{1e300, "1e+300"},
 		{5e-324, "4.94065645841247e-324"},
 		{std::numeric_limits<double>::max(), "1.7976931348623157e+308"},
-		{{3.14159, 3}, "3.14"},
-		{{1234, 2}, "1.2e+03"},
 		{{1234, 0}, "1e+03"},
-		{{0.1, 20}, "0.10000000000000000555"},
 		{Infinity, "null"},
-		{-Infinity, "null"},
 		{{std::numeric_limits<double>::quiet_NaN(), 5}, "null"},
 	};
 	for (const auto& [number, text] : table)
@@ -193,15 +170,4 @@ TEST(Writer, NeitherObeysNorChangesTheStreamsFormat)
 	std::locale::global(global);
 }
 
-TEST(Writer, WritesEveryKindByItself)
-{
-	std::ostringstream stream;
-	json::Writer::Write(json::Null(), stream);
-	json::Writer::Write(json::Boolean(true), stream);
-	json::Writer::Write(json::Number(2), stream);
-	json::Writer::Write(json::String("s"), stream);
-	json::Writer::Write(json::Array(), stream);
-	json::Writer::Write(json::Object(), stream);
-	EXPECT_EQ(stream.str(), "nulltrue2\"s\"[]{}");
-}
 } // namespace

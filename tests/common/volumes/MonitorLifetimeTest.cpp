@@ -1,7 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "GuardHeap.h"
-#include "Listening.h"
-#include "Signal.h"
+#include "Monitoring.h"
 
 namespace
 {
@@ -10,6 +9,27 @@ using Kiln::VolumeEventMonitor;
 const FakeVolume system{.paths = {L"C:\\"}, .device = FakeDevice{"s"}};
 const FakeVolume share{.paths = {L"N:\\"}, .driveType = DRIVE_REMOTE};
 const FakeVolume other{.paths = {L"Z:\\"}, .driveType = DRIVE_REMOTE};
+
+/**
+ * Wakes one thread, which may begin to wait later. A standard semaphore may wake a waiter of another one instead where the
+ * run-time library has no wait of the platform's to build on.
+ */
+class Signal
+{
+public:
+	Signal() = default;
+	~Signal() { CloseHandle(event_); }
+	Signal(const Signal&) = delete;
+	Signal& operator=(const Signal&) = delete;
+
+	void send() { SetEvent(event_); }
+
+	/** @return false when there was no signal for ten seconds */
+	bool wait() { return WaitForSingleObject(event_, 10'000) == WAIT_OBJECT_0; }
+
+private:
+	const HANDLE event_ = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+};
 
 /** Where a thread waits until it is told to go on. */
 class Gate
@@ -29,43 +49,29 @@ private:
 	Signal isOpen_;
 };
 
-/** Starts a monitor whose thread comes to the gate, and destroys it while the thread is there. */
-void destroyAt(Gate& gate)
-{
-	WarningLog log;
-	auto monitor = std::make_unique<VolumeEventMonitor>();
-	monitor->start();
-	ASSERT_TRUE(gate.waitUntilReached());
-	std::jthread destroyer([&] { monitor.reset(); });
-	std::this_thread::sleep_for(std::chrono::milliseconds(20));
-	gate.open();
-	destroyer.join();
-	EXPECT_EQ(log.text(), "");
-	EXPECT_EQ(monitorWindow(), nullptr);
-}
-
 TEST(MonitorLifetime, TheThreadEndsWhereverItIs)
 {
 	const FakeComputer computer({system});
-	Gate gate;
-	const auto pass = [&] { gate.pass(); };
+	/** Destroys a monitor while its thread is in a function. */
+	const auto destroyIn = [](const char* name, auto function)
 	{
-		const auto com = hooked("CoInitializeEx", &CoInitializeEx, pass);
-		destroyAt(gate);
-	}
-	{
-		const auto window = hooked("CreateWindowExW", &CreateWindowExW, pass);
-		destroyAt(gate);
-	}
-	{
-		const auto folder = hooked("SHGetFolderLocation", &SHGetFolderLocation, pass);
-		destroyAt(gate);
-	}
-	{
-		const auto shell = hooked("SHChangeNotifyRegister", &SHChangeNotifyRegister, pass);
-		const auto deregister = counted("SHChangeNotifyDeregister", &SHChangeNotifyDeregister);
-		destroyAt(gate);
-	}
+		Gate gate;
+		const auto hook = hooked(name, function, [&] { gate.pass(); });
+		WarningLog log;
+		auto monitor = std::make_unique<VolumeEventMonitor>();
+		monitor->start();
+		ASSERT_TRUE(gate.waitUntilReached());
+		std::jthread destroyer([&] { monitor.reset(); });
+		std::this_thread::sleep_for(std::chrono::milliseconds(20));
+		gate.open();
+		destroyer.join();
+		EXPECT_EQ(log.text(), "");
+		EXPECT_EQ(monitorWindow(), nullptr);
+	};
+	destroyIn("CoInitializeEx", &CoInitializeEx);
+	destroyIn("CreateWindowExW", &CreateWindowExW);
+	destroyIn("SHGetFolderLocation", &SHGetFolderLocation);
+	destroyIn("SHChangeNotifyRegister", &SHChangeNotifyRegister);
 }
 
 TEST(MonitorLifetime, ADriveThatDoesNotAnswerDelaysTheEndByItsOwnQueryAlone)
@@ -87,7 +93,7 @@ TEST(MonitorLifetime, ADriveThatDoesNotAnswerDelaysTheEndByItsOwnQueryAlone)
 	ASSERT_TRUE(gate.waitUntilReached());
 	monitor->addObserver(&late);
 	EXPECT_EQ(monitor->mountedVolumes().size(), 1u);
-	Events paths;
+	Texts paths;
 	EXPECT_EQ(monitor->listMountPoints(paths), 3u);
 	monitor->removeObserver(&observer);
 
@@ -98,8 +104,8 @@ TEST(MonitorLifetime, ADriveThatDoesNotAnswerDelaysTheEndByItsOwnQueryAlone)
 	gate.open();
 	destroyer.join();
 	EXPECT_EQ(computer.queries, 2) << "the last drive is not asked any more";
-	EXPECT_EQ(observer.events(), Events{"+C:"});
-	EXPECT_EQ(late.events(), Events{"+N:"});
+	EXPECT_EQ(observer.events(), Texts{"+C:"});
+	EXPECT_EQ(late.events(), Texts{"+N:"});
 }
 
 TEST(MonitorLifetime, AFullMessageQueueDoesNotKeepTheThread)
@@ -149,32 +155,34 @@ TEST(MonitorLifetime, EndsInTheMidstOfAStormWhileObserversComeAndGo)
 	}
 }
 
-TEST(MonitorLifetime, AnOverridingClassStopsFirst)
+TEST(MonitorLifetime, AThreadThatIsGoneIsNotWaitedFor)
 {
-	class Counting : public VolumeEventMonitor
+	Listening listening({system});
+	const DWORD id = GetWindowThreadProcessId(monitorWindow(), nullptr);
+	SendMessageW(monitorWindow(), WM_NULL, 0, 0);
+	// As at the end of the process, whose other threads go first.
+	const HANDLE thread = OpenThread(THREAD_TERMINATE | SYNCHRONIZE, FALSE, id);
+	TerminateThread(thread, 0);
+	WaitForSingleObject(thread, INFINITE);
+	CloseHandle(thread);
+	listening.monitor.reset();
+	EXPECT_EQ(listening.log.text(), "");
+}
+
+TEST(MonitorLifetime, AnOverridingClassStopsForGood)
+{
+	struct Stopping : VolumeEventMonitor
 	{
-	public:
-		~Counting() override { stop(); }
-		void notifyVolumeMounted(const Kiln::VolumeMountedNotification& notification) override
-		{
-			++count;
-			VolumeEventMonitor::notifyVolumeMounted(notification);
-		}
+		~Stopping() override { stop(); }
 		bool startAgain()
 		{
 			stop();
 			return start();
 		}
-		std::atomic<int> count = 0;
-	};
-	const FakeComputer computer({system, share});
-	RecordingObserver observer;
-	Counting monitor;
-	monitor.addObserver(&observer);
-	monitor.start();
-	EXPECT_TRUE(observer.waitFor(2));
-	EXPECT_EQ(monitor.count, 2);
-	EXPECT_FALSE(monitor.startAgain()) << "an end is for good";
+	} monitor;
+	const FakeComputer computer({system});
+	EXPECT_TRUE(monitor.start());
+	EXPECT_FALSE(monitor.startAgain());
 }
 
 TEST(MonitorLifetime, ComIsLeftOnceOnTheThreadThatDestroys)

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <kiln/VolumeEventMonitor.h>
+#include <sstream>
 #include <winioctl.h>
 
 namespace
@@ -11,14 +12,26 @@ using Kiln::FileSystemType;
 using Kiln::VolumeEventMonitor;
 using Kiln::VolumeInfo;
 
-VolumeInfo query(const std::wstring& path, int expectedResult = 1)
+/** The result of a query and the whole record; what is false or empty leaves nothing. */
+std::string query(const std::wstring& path)
 {
 	VolumeInfo volume;
-	volume.name = volume.identifier = volume.volumeKey = "of before";
+	volume.name = volume.volumeKey = "of before";
 	volume.canEject = true;
-	EXPECT_EQ(VolumeEventMonitor::queryVolumeInfo(path, volume), expectedResult);
-	return volume;
+	std::ostringstream text;
+	text << VolumeEventMonitor::queryVolumeInfo(path, volume) << " " << volume.mountPath << " '" << volume.name << "' "
+		 << volume.identifier << " " << VolumeEventMonitor::fileSystemTypeName(volume) << " " << volume.availableBytes
+		 << " of " << volume.capacity << (volume.isRemovable ? " removable" : "") << (volume.isReadOnly ? " fixed" : "")
+		 << (volume.isNetwork ? " network" : "") << (volume.canEject ? " ejects" : "") << volume.auxiliaryText1
+		 << volume.volumeKey;
+	return text.str();
 }
+
+struct Row
+{
+	std::wstring path;
+	std::string text;
+};
 
 TEST(VolumeQuery, FillsTheRecordOfTheDriveThatHoldsThePath)
 {
@@ -32,146 +45,108 @@ TEST(VolumeQuery, FillsTheRecordOfTheDriveThatHoldsThePath)
 		{.paths = {L"F:\\"}, .label = L"\xD800 \u00FC", .fileSystem = L"CDFS", .flags = FILE_READ_ONLY_VOLUME},
 		{.paths = {L"Z:\\"}, .label = L"share", .driveType = DRIVE_REMOTE, .capacity = ~0ull, .available = ~0ull},
 	});
-	const VolumeInfo fixed = query(L"c:\\Users\\x");
-	EXPECT_EQ(fixed.name, "System");
-	EXPECT_EQ(fixed.identifier, "WD-1;3");
-	EXPECT_EQ(fixed.mountPath, "C:");
-	EXPECT_EQ(fixed.fsType, FileSystemType::ntfs);
-	EXPECT_EQ(fixed.capacity, 1000u);
-	EXPECT_EQ(fixed.availableBytes, 10u);
-	EXPECT_FALSE(fixed.isRemovable || fixed.isReadOnly || fixed.isNetwork || fixed.canEject);
-	EXPECT_EQ(fixed.auxiliaryText1 + fixed.volumeKey, "");
-
-	const VolumeInfo stick = query(L"E:");
-	EXPECT_EQ(stick.name, "Untitled");
-	EXPECT_EQ(stick.identifier, "S\xEF\xBF\xBD;1") << "no partition number, and no text that is not UTF-8";
-	EXPECT_EQ(stick.fsType, FileSystemType::fat);
-	EXPECT_TRUE(stick.isRemovable);
-
-	const VolumeInfo disc = query(L"\\\\?\\F:\\x");
-	EXPECT_EQ(disc.name, "\xEF\xBF\xBD \xC3\xBC");
-	EXPECT_EQ(disc.identifier, "");
-	EXPECT_TRUE(disc.isReadOnly);
-
-	const VolumeInfo share = query(L"Z:\\");
-	EXPECT_EQ(share.mountPath, "Z:");
-	EXPECT_EQ(share.capacity, ~0ull);
-	EXPECT_TRUE(share.isNetwork);
-}
-
-TEST(VolumeQuery, WithoutADriveLetterTheRecordStaysAsItIs)
-{
-	for (const wchar_t* path : {L"", L"x", L"\\\\server\\share", L"\\\\?\\Volume{1}\\", L"\\", L"1:\\"})
+	const Row rows[] = {
+		{L"c:\\Users\\x", "1 C: 'System' WD-1;3 ntfs 10 of 1000"},
+		// No partition number, and no text that is not UTF-8.
+		{L"E:", "1 E: 'Untitled' S\xEF\xBF\xBD;1 fat 0 of 0 removable"},
+		{L"\\\\?\\F:\\x", "1 F: '\xEF\xBF\xBD \xC3\xBC'   0 of 0 fixed"},
+		{L"Z:\\", "1 Z: 'share'  ntfs 18446744073709551615 of 18446744073709551615 network"},
+		{L"\\\\?\\Volume{1}\\", "-256  'of before'   0 of 0 ejectsof before"},
+		{L"", "-256  'of before'   0 of 0 ejectsof before"},
+		{L"\\\\server\\share", "-256  'of before'   0 of 0 ejectsof before"},
+	};
+	for (const Row& row : rows)
 	{
-		const VolumeInfo volume = query(path, -256);
-		EXPECT_EQ(volume.name, "of before");
-		EXPECT_TRUE(volume.canEject);
+		EXPECT_EQ(query(row.path), row.text);
 	}
 }
 
 TEST(VolumeQuery, FileSystemsHaveNumbersAndTexts)
 {
-	struct Row
+	struct Named
 	{
-		const wchar_t* name;
+		std::wstring name;
 		FileSystemType type;
-		const char* text;
+		std::string text;
 	};
-	const Row rows[] = {
+	const Named rows[] = {
 		{L"HFS", FileSystemType::hfs, "hfs"},
 		{L"MSDOS", FileSystemType::fat, "fat"},
-		{L"NTFS", FileSystemType::ntfs, "ntfs"},
 		{L"nTfS", FileSystemType::ntfs, "ntfs"},
 		{L"FAT32", FileSystemType::fat, "fat"},
 		{L"fat", FileSystemType::fat, "fat"},
 		{L"Nfs", FileSystemType::nfs, "nfs"},
 		{L"SMB", FileSystemType::smb, "smb"},
 		{L"AFP", FileSystemType::afp, "afp"},
-		{L"", FileSystemType::unknown, ""},
 		{L"exFAT", FileSystemType::unknown, ""},
-		{L"ReFS", FileSystemType::unknown, ""},
-		{L"FAT3", FileSystemType::unknown, ""},
 		{L"NTFS ", FileSystemType::unknown, ""},
 	};
-	for (const Row& row : rows)
+	for (const Named& row : rows)
 	{
 		const FakeComputer computer({FakeVolume{.paths = {L"C:\\"}, .fileSystem = row.name}});
-		const VolumeInfo volume = query(L"C:\\");
+		VolumeInfo volume;
+		VolumeEventMonitor::queryVolumeInfo(L"C:\\", volume);
 		EXPECT_EQ(volume.fsType, row.type) << row.text;
 		EXPECT_EQ(VolumeEventMonitor::fileSystemTypeName(volume), row.text);
 	}
-	VolumeInfo odd;
-	odd.fsType = static_cast<FileSystemType>(7);
-	EXPECT_EQ(VolumeEventMonitor::fileSystemTypeName(odd), "");
 }
 
 TEST(VolumeQuery, SerialNumbersComeFromWithinTheAnswerAlone)
 {
 	constexpr DWORD head = sizeof(STORAGE_DEVICE_DESCRIPTOR);
-	struct Row
-	{
-		FakeDevice device;
-		std::string identifier;
-	};
-	const Row rows[] = {
+	const std::pair<FakeDevice, std::string> rows[] = {
 		{{"", true, 1}, ";1"},
-		{{"text", false, 2, 0}, ";2"},
-		{{"text", false, 2, head + 2}, "xt;2"},
-		{{"text", false, 2, head + 4}, ";2"},
-		{{"text", false, 2, 1023}, ";2"},
-		{{"text", false, 2, 1024}, ";2"},
-		{{"text", false, 2, 0xFFFFFFFF}, ";2"},
-		{{std::string("a\0b", 3), false, 4294967295}, "a;4294967295"},
-		{{std::string(2000, 'x'), false, 2}, std::string(1024 - head, 'x') + ";2"},
+		{{"text", true, 2, 0}, ";2"},
+		{{"text", true, 2, head + 2}, "xt;2"},
+		{{"text", true, 2, head + 4}, ";2"},
+		{{"text", true, 2, 0xFFFFFFFF}, ";2"},
+		{{std::string("a\0b", 3), true, 4294967295}, "a;4294967295"},
+		{{std::string(2000, 'x'), true, 2}, std::string(1024 - head, 'x') + ";2"},
 	};
-	for (const Row& row : rows)
+	for (const auto& [device, identifier] : rows)
 	{
-		const FakeComputer computer({FakeVolume{.paths = {L"C:\\"}, .device = row.device}});
-		const VolumeInfo volume = query(L"C:\\");
-		EXPECT_EQ(volume.identifier, row.identifier);
-		EXPECT_EQ(volume.isRemovable, row.device.isRemovable);
+		const FakeComputer computer({FakeVolume{.paths = {L"C:\\"}, .device = device}});
+		EXPECT_EQ(query(L"C:\\"), "1 C: 'Untitled' " + identifier + " ntfs 0 of 0 removable");
 	}
 }
 
-TEST(VolumeQuery, AVolumeThatCannotBeReadHasItsMountPathAlone)
+TEST(VolumeQuery, WhatCannotBeReadIsLeftOut)
 {
-	FakeComputer computer(
-		{FakeVolume{.paths = {L"C:\\"}, .label = L"a", .capacity = 1, .device = FakeDevice{"1", true}},
-			{.paths = {L"D:\\"}, .label = std::wstring(260, L'x')},
-			{.paths = {L"E:\\"}, .fileSystem = std::wstring(255, L'x')},
-			{.paths = {L"F:\\"}, .label = std::wstring(259, L'x'), .fileSystem = std::wstring(254, L'x')}});
-	computer.fail("GetVolumeInformationW", ERROR_NOT_READY);
-	for (const wchar_t* path : {L"C:\\", L"D:\\", L"E:\\", L"Q:\\"})
+	FakeComputer computer({
+		{.paths = {L"C:\\"},
+			.label = L"a",
+			.capacity = 1,
+			.available = 1,
+			.device = FakeDevice{.serial = "s", .isRemovable = true, .partition = 7}},
+		{.paths = {L"D:\\"}, .label = std::wstring(260, L'x')},
+		{.paths = {L"E:\\"}, .fileSystem = std::wstring(255, L'x')},
+		{.paths = {L"F:\\"}, .label = std::wstring(259, L'x'), .fileSystem = std::wstring(254, L'x')},
+	});
+	const Row volumes[] = {
+		{L"D:\\", "0 D: ''   0 of 0"},
+		{L"E:\\", "0 E: ''   0 of 0"},
+		{L"F:", "1 F: '" + std::string(259, 'x') + "'   0 of 0"},
+		{L"Q:\\", "0 Q: ''   0 of 0"},
+	};
+	for (const Row& row : volumes)
 	{
-		const VolumeInfo volume = query(path, 0);
-		EXPECT_EQ(volume.mountPath, std::string(1, static_cast<char>(*path)) + ":");
-		EXPECT_EQ(volume.name + volume.identifier + volume.volumeKey, "");
-		EXPECT_EQ(volume.capacity, 0u);
-		EXPECT_FALSE(volume.isRemovable || volume.canEject);
+		EXPECT_EQ(query(row.path), row.text);
 	}
-	EXPECT_EQ(query(L"F:").name, std::string(259, 'x'));
-}
-
-TEST(VolumeQuery, WhatFailsLaterLeavesItsMembersEmpty)
-{
-	FakeComputer computer({FakeVolume{
-		.paths = {L"C:\\"}, .label = L"a", .capacity = 1, .available = 1, .device = FakeDevice{"s", true, 7}}});
-	computer.fail("GetDiskFreeSpaceExW", ERROR_NOT_READY);
-	const VolumeInfo withoutSpace = query(L"C:");
-	EXPECT_EQ(withoutSpace.capacity + withoutSpace.availableBytes, 0u);
-	EXPECT_EQ(withoutSpace.identifier, "s;7");
-
-	computer.fail("CreateFileW", ERROR_ACCESS_DENIED);
-	const VolumeInfo withoutDevice = query(L"C:");
-	EXPECT_EQ(withoutDevice.identifier, "");
-	EXPECT_FALSE(withoutDevice.isRemovable);
-	EXPECT_EQ(withoutDevice.capacity, 1u);
-
+	const std::pair<const char*, const char*> failures[] = {
+		{"GetVolumeInformationW", "0 C: ''   0 of 0"},
+		{"GetDiskFreeSpaceExW", "1 C: 'a' s;7 ntfs 0 of 0 removable"},
+		{"CreateFileW", "1 C: 'a'  ntfs 1 of 1"},
+		{"none", "1 C: 'a' s;7 ntfs 1 of 1 removable"},
+	};
+	for (const auto& [function, text] : failures)
+	{
+		computer.fail(function, ERROR_NOT_READY);
+		EXPECT_EQ(query(L"C:"), text) << function;
+	}
 	computer.failControl(IOCTL_STORAGE_QUERY_PROPERTY, ERROR_NOT_SUPPORTED);
-	EXPECT_EQ(query(L"C:").identifier, "");
+	EXPECT_EQ(query(L"C:"), "1 C: 'a'  ntfs 1 of 1");
 	computer.failControl(IOCTL_DISK_GET_PARTITION_INFO_EX, ERROR_NOT_SUPPORTED);
-	EXPECT_EQ(query(L"C:").identifier, "s;1");
-	EXPECT_EQ(query(L"C:").identifier, "s;7");
+	EXPECT_EQ(query(L"C:"), "1 C: 'a' s;1 ntfs 1 of 1 removable");
 }
 
 TEST(VolumeQuery, NoWindowAsksForAMediumAndTheThreadIsLeftAsItWas)
@@ -179,11 +154,11 @@ TEST(VolumeQuery, NoWindowAsksForAMediumAndTheThreadIsLeftAsItWas)
 	FakeComputer computer({FakeVolume{.paths = {L"C:\\"}}});
 	DWORD during = 0;
 	computer.onQuery = [&](const std::wstring&) { during = GetThreadErrorMode(); };
-	for (const int result : {1, 0})
+	for (const int failures : {0, 1})
 	{
-		computer.fail("GetVolumeInformationW", ERROR_NOT_READY, 1 - result);
+		computer.fail("GetVolumeInformationW", ERROR_NOT_READY, failures);
 		SetThreadErrorMode(SEM_NOOPENFILEERRORBOX, nullptr);
-		query(L"C:", result);
+		query(L"C:");
 		EXPECT_EQ(during, static_cast<DWORD>(SEM_FAILCRITICALERRORS));
 		EXPECT_EQ(GetThreadErrorMode(), static_cast<DWORD>(SEM_NOOPENFILEERRORBOX));
 	}

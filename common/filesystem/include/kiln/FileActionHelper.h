@@ -40,11 +40,13 @@ public:
 		const std::string& program, const std::string& parameters, const std::string& directory, std::uint32_t flags);
 
 	/**
-	 * Moves a file or a folder with its content to the recycle bin, without a question or an error window; where the drive
-	 * has no bin, the file is deleted.
-	 * @return false, with nothing done, for the root of a drive or share, for a path whose last name is of dots and blanks
-	 *         alone, for one with "*" or "?" (which the shell would take for a pattern, so also for one that begins with
-	 *         "\\?\") and for one of more than 259 characters
+	 * Has the shell move a file or folder to the recycle bin, without a question or an error window; where the drive has no
+	 * bin, the shell deletes it. The shell's flags (0x1654) include the one against recursion, FOF_NORECURSION, which is
+	 * described for patterns alone: a folder that is moved to the bin takes its content along. Whether one that is deleted
+	 * does is not known.
+	 * @return false, with nothing done, for the root of a drive or share, for a drive alone, for a path whose last name is
+	 *         of dots and blanks alone, for one with "*" or "?" (which the shell would take for a pattern, so also for one
+	 *         that begins with "\\?\") and for one of more than 259 characters
 	 */
 	static bool moveToRecycleBin(const std::string& path);
 };

@@ -22,7 +22,7 @@ std::string formatFileSize(const std::string& path);
 
 /**
  * The time of the last modification of a file or folder, in seconds since the epoch (1970-01-01 00:00 UTC), the same in
- * summer and winter; 0 for earlier times. The C library's zone must be the system's, as it is unless the environment
+ * summer and winter; 0 for earlier times, and for later ones than the platform tells apart (the year 30828). The C library's zone must be the system's, as it is unless the environment
  * variable TZ says otherwise.
  */
 std::int64_t fileModificationTime(const std::string& path);

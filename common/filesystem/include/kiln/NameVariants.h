@@ -27,7 +27,7 @@ std::string uniqueTemporaryPath(const std::string& extension);
 
 /**
  * A numbered variant of a path: "dir/scan.png" with number 7 and width 3 gives "dir/scan-007.png". A number that the name
- * ends in already ("scan-12.png") gives way to the new one.
+ * ends in already gives way to the new one: "scan-12.png" by default gives "scan-1.png".
  * @param start the number
  * @param width at least so many digits, filled with zeros at the left; at most 255, the longest name of a file
  * @param skipExisting counts on from start to the first number whose name no file or folder has

@@ -3,7 +3,7 @@
 
 #include <iosfwd>
 #include <kiln/Deserializable.h>
-#include <rapidjson/document.h>
+#include <rapidjson/fwd.h>
 
 namespace Kiln
 {
@@ -18,7 +18,8 @@ public:
 	virtual bool fromRapidJson(const rapidjson::Value& in);
 
 	/**
-	 * Parses the whole stream, at any depth of nesting. Numbers are read to the nearest double. A stream that failed
+	 * Parses the whole stream, at any depth of nesting. Integers of up to 64 bits are exact; any
+	 * other number becomes the nearest double, zero where none is nearer, or the error kParseErrorNumberTooBig. A stream that failed
 	 * before, or is at its end, counts as empty text. The text should be UTF-8 without a byte-order mark; its encoding is
 	 * not checked. NUL bytes are errors, as is "\u" with the first half of a surrogate pair alone.
 	 * @return the document; it holds the error, if any

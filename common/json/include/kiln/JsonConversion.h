@@ -3,7 +3,7 @@
 #pragma once
 
 #include <cajun/json/elements.h>
-#include <rapidjson/document.h>
+#include <rapidjson/fwd.h>
 
 namespace Kiln
 {

@@ -6,7 +6,8 @@
 namespace Kiln::Locale
 {
 /**
- * Loads one string file: a JSON object in UTF-8; a byte-order mark is skipped. Memory grows with the file's size. A file
+ * Loads one string file: a JSON object in UTF-8; a byte-order mark is skipped, and so are numbers, whatever they
+ * say. Memory grows with the file's size. A file
  * that cannot be read or is no such object adds nothing to the table, and error() tells why.
  */
 class JSONLoader : public Loader

@@ -88,7 +88,6 @@ private:
 		Lock lock;
 	};
 
-	LoggingComponent& findOrCreate(const std::string& name) KILN_REQUIRES(registryLock_);
 	const std::string& fileOf(const std::string& name) KILN_REQUIRES(registryLock_);
 	OpenFile* openFile(const std::string& path) KILN_REQUIRES(registryLock_);
 	void redirect(const std::string& name, std::ostream& console);

@@ -34,7 +34,7 @@ public:
 private:
 	const Kind kind_;
 
-	/** Room for the platform's object, which its header alone knows. */
+	/** Room for the platform's object, which its header alone knows; as large as it is on x64. */
 	union
 	{
 		void* semaphore_;

@@ -6,7 +6,7 @@
 namespace Kiln
 {
 /** Holds a lock as long as it lives. */
-class KILN_SCOPED_CAPABILITY LockGuard
+class [[nodiscard]] KILN_SCOPED_CAPABILITY LockGuard
 {
 public:
 	/** The lock must outlive the guard. */

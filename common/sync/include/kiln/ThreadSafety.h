@@ -13,9 +13,8 @@
 /** A class whose objects hold a lock as long as they live. */
 #define KILN_SCOPED_CAPABILITY KILN_THREAD_SAFETY(scoped_lockable)
 
-/** A field, or what a pointer field points to, is used with the lock held. */
+/** A field is used with the lock held. */
 #define KILN_GUARDED_BY(lock) KILN_THREAD_SAFETY(guarded_by(lock))
-#define KILN_PT_GUARDED_BY(lock) KILN_THREAD_SAFETY(pt_guarded_by(lock))
 
 /** A function takes the lock, gives it back, or is called with it held; without argument, the object itself. */
 #define KILN_ACQUIRE(...) KILN_THREAD_SAFETY(acquire_capability(__VA_ARGS__))

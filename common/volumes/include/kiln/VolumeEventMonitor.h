@@ -16,9 +16,12 @@ namespace Kiln
  * reports come from a thread of the monitor's own, which also does the queries, without a lock. Warnings go to the log
  * component "VolumeEventMonitor".
  *
- * Lifetime: the destructor ends the thread and waits for it, at most for the query or the observer's call that runs at that
- * moment. It must not run on the monitor's thread, nor with a lock that an observer takes. It calls CoUninitialize on the
- * thread that it runs on. A class that overrides an operation calls stop() in its own destructor.
+ * Lifetime: the destructor ends the thread and waits for it, at most for what runs at that moment: one query, an observer's
+ * call, the listing of all mount points, or a call of the shell or of COM that sets the thread up. It must not run on the
+ * monitor's thread, nor with a lock that an observer takes, nor while the system loads or unloads a library: so a monitor
+ * started by a library is destroyed before that is unloaded, not by its global objects. When the process ends, the thread is
+ * gone before, and nothing is waited for. The destructor calls CoUninitialize on the thread that it runs on. A class that
+ * overrides an operation calls stop() in its own destructor.
  *
  * One monitor works in a process at a time. A second one warns, reports nothing and may be destroyed at any moment; the log
  * component goes with the last one.

@@ -4,6 +4,13 @@
 
 #define BOOST_FILESYSTEM_SOURCE
 #define BOOST_USE_WINDOWS_H
+// Else the platform's header defines macros named min and max, of which this library's sources know nothing.
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
 
 THIRD_PARTY_INCLUDES_START
 #include <libs/filesystem/src/codecvt_error_category.cpp>

@@ -3,7 +3,7 @@
 // lies below a module. "kiln/../.." leads from the headers' folder to the sources beside it.
 #include <kiln/../../src/BufferedInputStream.cpp>
 #include <kiln/../../src/CajunTypeResolver.cpp>
-#include <kiln/../../src/Deserializable.cpp>
+#include <kiln/../../src/DeserializableRapidJson.cpp>
 #include <kiln/../../src/FileChoice.cpp>
 #include <kiln/../../src/FileStreams.cpp>
 #include <kiln/../../src/FolderLoader.cpp>
@@ -11,5 +11,6 @@
 #include <kiln/../../src/JSONLoadHelper.cpp>
 #include <kiln/../../src/JSONLoader.cpp>
 #include <kiln/../../src/JsonConversion.cpp>
+#include <kiln/../../src/NumberText.cpp>
 #include <kiln/../../src/Paths.cpp>
 #include <kiln/../../src/Unicode.cpp>

@@ -39,7 +39,8 @@ public:
 	void Resize(std::size_t size);
 	void Clear() noexcept;
 
-	/** The element at that index. Behind the end the array grows, or, if it is const, throws Exception. */
+	/** The element at that index. Behind the end the array grows; a const one, and one that would be larger than an
+	 * array can be, throws Exception. */
 	UnknownElement& operator[](std::size_t index);
 	const UnknownElement& operator[](std::size_t index) const;
 

@@ -63,12 +63,12 @@ inline Object::iterator Object::Insert(Member member, const_iterator position)
 	{
 		throw Exception("Object member already exists: " + member.name);
 	}
-	return Add(position, std::move(member));
+	return Add(position, member.name, std::move(member.element));
 }
 
-inline Object::iterator Object::Add(const_iterator position, Member member)
+inline Object::iterator Object::Add(const_iterator position, const std::string& name, UnknownElement element)
 {
-	const iterator added = members_.emplace(position, std::move(member));
+	const iterator added = members_.emplace(position, name, std::move(element));
 	try
 	{
 		if (!index_.empty())
@@ -116,7 +116,7 @@ inline void Object::Clear() noexcept
 inline UnknownElement& Object::operator[](const std::string& name)
 {
 	const iterator found = Find(name);
-	return found == End() ? Add(End(), Member(name))->element : found->element;
+	return found == End() ? Add(End(), name, UnknownElement())->element : found->element;
 }
 
 inline const UnknownElement& Object::operator[](const std::string& name) const
@@ -166,6 +166,10 @@ inline void Array::Clear() noexcept
 
 inline UnknownElement& Array::operator[](std::size_t index)
 {
+	if (index >= elements_.max_size())
+	{
+		throw Exception("Array index out of range: " + std::to_string(index));
+	}
 	if (index >= Size())
 	{
 		Resize(index + 1);

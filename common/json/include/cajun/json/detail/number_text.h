@@ -27,7 +27,7 @@ public:
 		}
 		if (number.Precision() >= 0)
 		{
-			return Print(value, std::min(number.Precision(), MostDigits));
+			return Print(value, (std::min)(number.Precision(), MostDigits));
 		}
 		if (std::abs(value) < 1e15 && value == std::trunc(value) && !std::signbit(value))
 		{
@@ -52,7 +52,7 @@ private:
 	static bool IsIrregular(double value)
 	{
 		int exponent = 0;
-		return std::abs(value) < std::numeric_limits<double>::min() || std::abs(std::frexp(value, &exponent)) == 0.5;
+		return std::abs(value) < (std::numeric_limits<double>::min)() || std::abs(std::frexp(value, &exponent)) == 0.5;
 	}
 
 	std::string_view PrintShortest(double value)
@@ -88,7 +88,7 @@ private:
 			digits_.append(scientific, point + 1, mark - point - 1);
 		}
 		const int count = static_cast<int>(digits_.size());
-		if (exponent < -4 || exponent >= std::max(count, 15))
+		if (exponent < -4 || exponent >= (std::max)(count, 15))
 		{
 			return scientific;
 		}

@@ -93,7 +93,7 @@ private:
 	static constexpr std::size_t UnindexedSize = 8;
 
 	/** For a name that is not there yet. */
-	iterator Add(const_iterator position, Member member);
+	iterator Add(const_iterator position, const std::string& name, UnknownElement element);
 	void BuildIndex();
 
 	std::list<Member> members_;

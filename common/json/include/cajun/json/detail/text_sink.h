@@ -42,7 +42,7 @@ public:
 		bytes.fill(byte);
 		while (count > 0 && IsGood())
 		{
-			const std::size_t length = std::min(count, bytes.size());
+			const std::size_t length = (std::min)(count, bytes.size());
 			Put({bytes.data(), length});
 			count -= length;
 		}

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <cajun/json/detail/values.h>
-#include <cajun/json/visitor.h>
+#include <cajun/json/detail/visitors.h>
 #include <concepts>
 #include <cstddef>
 #include <memory>

@@ -20,6 +20,17 @@ bool isTrueSoon(Condition condition)
 	return condition();
 }
 
+/** Runs the work on so many threads, each with its number, and waits for their ends. */
+template <class Work>
+void onThreads(int count, Work work)
+{
+	std::vector<std::jthread> threads;
+	for (int number = 0; number < count; ++number)
+	{
+		threads.emplace_back(work, number);
+	}
+}
+
 /** Threads that repeat the work until they are destroyed. */
 template <class Work>
 std::vector<std::jthread> repeatOnThreads(int count, Work work)

@@ -1,9 +1,9 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Platform.h"
 #include <memory>
 #include <string>
-#include <windows.h>
 
 namespace Kiln
 {

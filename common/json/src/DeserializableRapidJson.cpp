@@ -3,6 +3,7 @@
 #include <kiln/BufferedInputStream.h>
 #include <kiln/DeserializableRapidJson.h>
 #include <kiln/JsonConversion.h>
+#include <rapidjson/document.h>
 
 namespace Kiln
 {
