@@ -1,6 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "TemporaryFolder.h"
-#include <random>
+#include <gtest/gtest.h>
+#include <kiln/Paths.h>
 
 namespace
 {
@@ -41,27 +41,6 @@ TEST(Paths, Parts)
 	}
 }
 
-TEST(Paths, PartsMakeThePathAgain)
-{
-	std::mt19937 random(2);
-	for (int round = 0; round < 1000; ++round)
-	{
-		std::string path(random() % 9, ' ');
-		for (char& c : path)
-		{
-			c = "aC:./\\"[random() % 6];
-		}
-		const std::string parent = Kiln::parentOf(path);
-		const std::string stem = Kiln::stemOf(path);
-		const std::string pathAndStem = Kiln::stemOf(path, true);
-		const std::string extension = Kiln::extensionOf(path);
-		EXPECT_TRUE(path.starts_with(parent)) << path;
-		EXPECT_TRUE(pathAndStem.starts_with(parent) && pathAndStem.ends_with(stem)) << path;
-		EXPECT_TRUE(path == pathAndStem + "." + extension || path == pathAndStem) << path;
-		EXPECT_TRUE(parent.size() < path.size() || Kiln::parentOf(parent) == parent) << path;
-	}
-}
-
 TEST(Paths, AbsoluteFormIsOneForEachFile)
 {
 	const std::pair<const char*, const char*> rows[] = {
@@ -85,17 +64,4 @@ TEST(Paths, AbsoluteFormIsOneForEachFile)
 	EXPECT_NE(Kiln::pathKey("C:/a.log"), Kiln::pathKey("C:/b.log"));
 }
 
-TEST(Streams, OpenFilesByTheirUtf8Names)
-{
-	const TemporaryFolder folder;
-	const std::string path = folder / "\xE2\x82\xAC.txt";
-	EXPECT_FALSE(Kiln::openInput(path));
-	Kiln::openOutput(path) << "one";
-	Kiln::openOutput(path, std::ios::app) << " two";
-	EXPECT_EQ(Kiln::listFiles(folder.path), std::vector<std::string>{"\xE2\x82\xAC.txt"});
-	std::string text;
-	std::getline(Kiln::openInput(path), text);
-	EXPECT_EQ(text, "one two");
-	EXPECT_FALSE(Kiln::openOutput(folder / "missing/file"));
-}
 } // namespace

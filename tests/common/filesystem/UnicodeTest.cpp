@@ -22,24 +22,18 @@ TEST(Unicode, TextsConvertBothWays)
 
 TEST(Unicode, InvalidInputIsReplaced)
 {
-	const char* const invalid[] = {"a\xFFz", "a\xC3z", "a\x80z", "a\xED\xA0\x80z", "a\xF0\x9F\x8Ez", "a\xC0\xAFz"};
-	for (const std::string text : invalid)
+	for (const std::string text : {"a\xFFz", "a\xC3z", "a\xED\xA0\x80z", "a\xF0\x9F\x8Ez", "a\xC0\xAFz"})
 	{
 		const std::wstring wide = Kiln::toWide(text);
 		ASSERT_GE(wide.size(), 3u);
-		EXPECT_EQ(wide.front(), L'a');
-		EXPECT_EQ(wide.back(), L'z');
-		EXPECT_EQ(wide.find_first_not_of(L'\xFFFD', 1), wide.size() - 1) << text;
+		EXPECT_EQ(wide, L"a" + std::wstring(wide.size() - 2, L'\xFFFD') + L"z") << text;
 	}
-	EXPECT_EQ(Kiln::toUtf8(L"a\xD83Cz"), "a\xEF\xBF\xBDz");
-	EXPECT_EQ(Kiln::toUtf8(L"a\xDFA8"), "a\xEF\xBF\xBD");
+	EXPECT_EQ(Kiln::toUtf8(L"a\xD83Cz\xDFA8"), "a\xEF\xBF\xBDz\xEF\xBF\xBD");
 }
 
 TEST(Unicode, LowerCase)
 {
 	EXPECT_EQ(Kiln::lowerCase(""), "");
-	EXPECT_EQ(Kiln::lowerCase("Table_EN-us.JSON"), "table_en-us.json");
-	EXPECT_EQ(Kiln::lowerCase("\xC3\x84\xCE\xA3"), "\xC3\xA4\xCF\x83");
-	EXPECT_EQ(Kiln::lowerCase("I"), "i");
+	EXPECT_EQ(Kiln::lowerCase("TablE_I.\xC3\x84\xCE\xA3"), "table_i.\xC3\xA4\xCF\x83");
 }
 } // namespace

@@ -12,8 +12,8 @@
 namespace
 {
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::IsEmpty;
-using Lines = std::vector<std::string>;
 
 class LoggerTest : public testing::Test
 {
@@ -66,7 +66,7 @@ TEST_F(LoggerTest, OneNameIsOneComponent)
 	one.log("1", Kiln::LogLevel::error);
 	warn(component("two"), "2");
 	EXPECT_THAT(linesOf(first), ElementsAre("1"));
-	EXPECT_THAT(linesOf(second), ElementsAre(testing::EndsWith("[WRN] two: 2")));
+	EXPECT_THAT(linesOf(second), ElementsAre(EndsWith("[WRN] two: 2")));
 
 	EXPECT_TRUE(logger.removeComponent(&one));
 	EXPECT_FALSE(logger.removeComponent("one"));
@@ -79,19 +79,18 @@ TEST_F(LoggerTest, OneNameIsOneComponent)
 TEST_F(LoggerTest, SpellingsOfOnePathShareAFile)
 {
 	const std::string file = folder / "new/folders\\L\xC3\x84NGE \xE3\x81\x82.log";
-	const Lines spellings = {
+	const std::string spellings[] = {
 		file, folder / "new\\.\\x/..\\folders//l\xC3\xA4nge \xE3\x81\x82.LOG", file + "\\", file + "."};
 	ImportOverride open("_wfopen", &_wfopen,
 		[real = systemFunction(&_wfopen, "_wfopen")](const wchar_t* name, const wchar_t* mode)
 		{ return real(name, mode); });
-	for (std::size_t spelling = 0; spelling < spellings.size(); ++spelling)
+	for (const std::string& spelling : spellings)
 	{
-		const std::string name = std::to_string(spelling);
-		logger.setComponentFile(name, spellings[spelling]);
-		component(name).log(name, 0);
+		logger.setComponentFile(spelling, spelling);
+		component(spelling).log("1", 0);
 	}
 	EXPECT_EQ(open.calls(), 1);
-	EXPECT_THAT(linesOf(file), ElementsAre("0", "1", "2", "3"));
+	EXPECT_THAT(linesOf(file), ElementsAre("1", "1", "1", "1"));
 }
 
 TEST_F(LoggerTest, ExtendsFilesAndClosesThem)
@@ -105,11 +104,9 @@ TEST_F(LoggerTest, ExtendsFilesAndClosesThem)
 	logger.closeAllFiles();
 	EXPECT_TRUE(logger.removeComponent("a"));
 	component("a").log("2", 0);
-	EXPECT_THAT(linesOf(file), ElementsAre("1", "2"));
-
-	// Redirected before it wrote again, a component survives the end of its file.
 	logger.closeAllFiles();
-	component("a").setStream(std::make_unique<std::ostringstream>());
+	// Redirected before it wrote again, a component survives the end of its file.
+	component("a").setStream(nullptr);
 	component("a").log("3", 0);
 	EXPECT_THAT(linesOf(file), ElementsAre("1", "2"));
 	EXPECT_TRUE(boost::filesystem::remove(Kiln::widePath(file)));
@@ -118,39 +115,33 @@ TEST_F(LoggerTest, ExtendsFilesAndClosesThem)
 TEST_F(LoggerTest, WithoutAFileItIsSilent)
 {
 	const std::string blocker = folder.file("file");
-	Lines paths = {"", folder.path, folder.path + "\\", blocker + "\\a.log", folder / "a<b.log", folder / "a\nb.log",
-		"\\", "C:", std::string("a\0b", 3), folder / std::string(32'000, 'a')};
-	for (std::size_t at = 0; at < paths.size(); ++at)
+	const std::string blocked = blocker + "\\a.log";
+	for (const std::string& path : {std::string(), folder.path, folder.path + "\\", blocked, folder / "a<b.log",
+			 std::string("a\0b", 3), folder / std::string(32'000, 'a')})
 	{
-		const std::string name = std::to_string(at);
-		logger.setComponentFile(name, paths[at]);
-		warn(component(name), "lost");
-		EXPECT_EQ(component(name).level(), 0u);
+		logger.setComponentFile(path, path);
+		warn(component(path), "lost");
+		EXPECT_EQ(component(path).level(), 0u);
 	}
 	EXPECT_THAT(Kiln::listFiles(folder.path), testing::Optional(ElementsAre("file")));
-	EXPECT_EQ(linesOf(blocker), Lines{});
+	EXPECT_THAT(linesOf(blocker), IsEmpty());
 
 	// The next component for the file tries again.
 	boost::filesystem::remove(Kiln::widePath(blocker));
-	logger.setComponentFile("next", paths[3]);
+	logger.setComponentFile("next", blocked);
 	component("next").log("found", 0);
-	EXPECT_THAT(linesOf(paths[3]), ElementsAre("found"));
+	EXPECT_THAT(linesOf(blocked), ElementsAre("found"));
 }
 
 TEST_F(LoggerTest, NamesAndMessagesAreWrittenAsTheyAre)
 {
 	logger.setDefaultLogFile(folder / "a.log");
 	warn(component(""), "");
-	warn(component("a\nb"), "c\nd \xC3\xBC");
+	warn(component("a\nb"), "c\nd \xC3\xBC\x01");
 	warn(component(std::string(600, 'n')), std::string(10'000, 'm'));
-	const Lines lines = linesOf(folder / "a.log");
-	ASSERT_EQ(lines.size(), 5u);
-	const std::size_t stamp = std::string("26-11-14 03:36:50 ").size();
-	EXPECT_EQ(lines[0].substr(stamp), "[WRN] : ");
-	EXPECT_EQ(lines[1].substr(stamp), "[WRN] a");
-	EXPECT_EQ(lines[2], "b: c");
-	EXPECT_EQ(lines[3], "d \xC3\xBC");
-	EXPECT_EQ(lines[4].substr(stamp), "[WRN] " + std::string(600, 'n') + ": " + std::string(10'000, 'm'));
+	EXPECT_THAT(
+		linesOf(folder / "a.log"), ElementsAre(EndsWith(" [WRN] : "), EndsWith(" [WRN] a"), "b: c", "d \xC3\xBC\x01",
+									   EndsWith(" [WRN] " + std::string(600, 'n') + ": " + std::string(10'000, 'm'))));
 }
 
 TEST_F(LoggerTest, RedirectsToTheConsole)
@@ -243,12 +234,10 @@ TEST_F(LoggerTest, AFullDiskSilencesItsFileAlone)
 		};
 		ImportOverride write("WriteFile", &WriteFile, fail, GetModuleHandleW(L"msvcrt.dll"));
 		component("full").log("2", 0);
-		component("full").log(std::string(10'000, '3'), 0);
 	}
-	component("full").log("4", 0);
-	component("other").log("5", 0);
+	component("full").log("3", 0);
+	component("other").log("4", 0);
 	EXPECT_THAT(linesOf(folder / "full.log"), ElementsAre("1"));
-	EXPECT_THAT(linesOf(folder / "a.log"), ElementsAre("5"));
+	EXPECT_THAT(linesOf(folder / "a.log"), ElementsAre("4"));
 }
-
 } // namespace

@@ -46,9 +46,7 @@ TEST(Url, PathsBecomeUrlsAndComeBack)
 	const Row rows[] = {
 		{R"(C:\Users\a b&c)", "C:/Users/a%20b%26c"},
 		{"E:", "E:"},
-		{R"(z:\x)", "z:/x"},
 		{R"(\\s\h\x)", "/s/h/x"},
-		{R"(\\s)", "/s"},
 		{R"(C:\"<>[]{}^|`)", "C:/%22%3C%3E%5B%5D%7B%7D%5E%7C%60"},
 		{"C:\\;+=,@$!~'()-_.*", "C:/;+=,@$!~'()-_.*"},
 		{R"(C:\file:stream)", "C:/file:stream"},
@@ -56,25 +54,19 @@ TEST(Url, PathsBecomeUrlsAndComeBack)
 		{"C:\\\x01\x1F\x7F", "C:/%01%1F%7F"},
 		{"C:\\Gr\xC3\xBCn\xC3\x9F \xE3\x81\x82\xF0\x9F\x8E\xA8", "C:/Gr%C3%BCn%C3%9F%20%E3%81%82%F0%9F%8E%A8"},
 		{"C:\\\x80\xFF\xC3 \xED\xA0\x80", "C:/%80%FF%C3%20%ED%A0%80"},
-		{"x", "x"},
 
 		// Separators that mean nothing are lost, and the others come back as backslashes.
 		{"", "", ""},
-		{"/", "", ""},
 		{R"(\\/\)", "", ""},
 		{R"(\a\b\)", "a/b", R"(a\b)"},
-		{"a//b", "a/b", R"(a\b)"},
 		{R"(C:\)", "C:", "C:"},
 		{R"(C:/a\/b/)", "C:/a/b", R"(C:\a\b)"},
 		{R"(\\\s//h)", "/s/h", R"(\\s\h)"},
-		{"//s/h", "/s/h", R"(\\s\h)"},
 
 		// What stands before the first colon is taken for a drive.
 		{"C:a", "C:/a", R"(C:\a)"},
 		{"a/b c:d", "a/b c:/d", R"(a\b c:\d)"},
-		{":", ":"},
 		{R"(\\?\C:\x)", R"(\\?\C:/x)"},
-		{R"(\\?\server)", "/?/server"},
 		{"C:\\a\0b"s, "C:/a%00b", ""},
 	};
 	expectBothWays(rows);
@@ -86,12 +78,9 @@ TEST(Url, WhereThePlatformEscapesTooLittleIsKnown)
 	const Row deviations[] = {
 		{R"(C:\50% \x)", "C:/50%%20/x"},
 		{R"(C:\%41)", "C:/%41", R"(C:\A)"},
-		{R"(C:\50%20x)", "C:/50%20x", R"(C:\50 x)"},
-		{R"(C:\%%3g%)", "C:/%%3g%"},
 		{R"(C:\%00)", "C:/%00", ""},
 		{R"(C:\a b#c d&e\f g)", "C:/a%20b#c d%26e/f%20g"},
 		{R"(C:\a b?c d\f g)", "C:/a%20b?c d/f%20g"},
-		{"C:\\#\xC3\xBC", "C:/#%C3%BC"},
 	};
 	expectBothWays(deviations);
 }
@@ -103,38 +92,26 @@ TEST(Url, UrlsOfOthersGivePaths)
 		{"file:///C:/x", R"(C:\x)"},
 		{"file:///C:/", R"(C:\)"},
 		{"file:///c%3A/x%20y", R"(c:\x y)"},
-		{"file:///%43%3a", "C:"},
 		{"file://C:/x", R"(C:\x)"},
-		{"file://c%3a/x", R"(c:\x)"},
 		{"file:////C:/x", R"(C:\x)"},
-		{"file:///C:x", "C:x"},
-		{"file:///a/b", R"(a\b)"},
 		{"file:///a%2Fb%5Cc", R"(a\b\c)"},
 		{"file://s/h/x%20y/", R"(\\s\h\x y\)"},
-		{"file://s", R"(\\s)"},
 		{"file://my%20s/h", R"(\\my s\h)"},
-		{"file:////s/h", R"(\\s\h)"},
 		{"file://///s/h", R"(\\s\h)"},
 		{"file://localhosts/h", R"(\\localhosts\h)"},
 		{"file:///x?q=%41#f", "x?q=A#f"},
-		{"file:///%zz%2%", "%zz%2%"},
 		{"file:///\xC3\xBC%C3%BC", "\xC3\xBC\xC3\xBC"},
 
 		// No name, or no file URL.
 		{"file://", ""},
-		{"file:///", ""},
 		{"file://///", ""},
-		{"file://localhost", ""},
 		{"file://localhost/", ""},
 		{"file:///a%00b", ""},
 		{"file:///a\0b"s, ""},
-		{"file:///%%00", ""},
 		{"file:///a%2500", "a%00"},
 		{"", ""},
 		{"file:/C:/x", ""},
 		{" file:///C:/x", ""},
-		{"http://localhost/C:/x", ""},
-		{R"(C:\x)", ""},
 	};
 	for (const auto& [url, path] : rows)
 	{
@@ -160,9 +137,7 @@ TEST(Url, NormalFormNamesTheHost)
 		{"file:///C:/x", "file://localhost/C:/x"},
 		{"x:///y:///z", "x://localhost/y:///z"},
 		{"file:////s", "file://localhost//s"},
-		{"file://s/h", "file://s/h"},
 		{":///", "://localhost/"},
-		{"://", "://"},
 	};
 	for (const auto& [url, normal] : rows)
 	{

@@ -1,5 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // Each call of the platform that can fail, failing.
+#include "Failing.h"
 #include "Monitoring.h"
 
 #include <process.h>
@@ -34,7 +35,7 @@ void expectInert(const std::string& warning)
 	EXPECT_FALSE(GetClassInfoExW(GetModuleHandleW(nullptr), L"VolumeEventMonitor", &description));
 }
 
-TEST(MonitorFailures, WithoutComThereIsNoMonitoring)
+TEST(MonitorFailures, EachStepOfTheThreadIsLoggedAndLeavesNothingBehind)
 {
 	for (const HRESULT result : {RPC_E_CHANGED_MODE, E_OUTOFMEMORY, HRESULT(2)})
 	{
@@ -46,9 +47,29 @@ TEST(MonitorFailures, WithoutComThereIsNoMonitoring)
 			});
 		expectInert("CoInitialize call failed; volume event monitoring will not work");
 	}
+	{
+		const auto registration = failing("RegisterClassExW", &RegisterClassExW, ERROR_CLASS_ALREADY_EXISTS);
+		expectInert("Failed to register WNDCLASS for monitoring volume events");
+	}
+	{
+		const ImportOverride window("CreateWindowExW", &CreateWindowExW,
+			[](DWORD, const wchar_t*, const wchar_t* title, DWORD style, int x, int y, int width, int height,
+				HWND parent, HMENU menu, HINSTANCE module, void*) -> HWND
+			{
+				EXPECT_EQ(std::tuple(title, style, x, y, width, height, parent, menu, module),
+					std::tuple(nullptr, DWORD{WS_POPUP}, CW_USEDEFAULT, 0, 640, 480, nullptr, nullptr,
+						GetModuleHandleW(nullptr)));
+				return nullptr;
+			});
+		expectInert("Failed to create listener window for volume events");
+	}
+	const auto freed = counted("ILFree", &ILFree);
+	const auto shell = failing("SHChangeNotifyRegister", &SHChangeNotifyRegister, ERROR_ACCESS_DENIED);
+	expectInert("Failed to register for shell notifications");
+	EXPECT_EQ(freed.calls(), 1) << "the folder that was to be watched";
 }
 
-TEST(MonitorFailures, ComThatIsThereAlreadyIsNoFailure)
+TEST(MonitorFailures, ComThatIsThereAlreadyAndNoFolderOfDrivesAreNoFailures)
 {
 	const ImportOverride com("CoInitializeEx", &CoInitializeEx, [](void*, DWORD) { return S_FALSE; });
 	const ImportOverride folder("SHGetFolderLocation", &SHGetFolderLocation,
@@ -62,43 +83,13 @@ TEST(MonitorFailures, ComThatIsThereAlreadyIsNoFailure)
 	VolumeEventMonitor monitor;
 	monitor.addObserver(&observer);
 	monitor.start();
-	EXPECT_TRUE(observer.waitFor(1)) << "without a folder to watch, what is there is still reported";
-}
-
-TEST(MonitorFailures, WithoutAWindowThereIsNoMonitoring)
-{
-	const ImportOverride window("CreateWindowExW", &CreateWindowExW,
-		[](DWORD, const wchar_t*, const wchar_t* title, DWORD style, int x, int y, int width, int height, HWND parent,
-			HMENU menu, HINSTANCE module, void*) -> HWND
-		{
-			EXPECT_EQ(std::tuple(title, style, x, y, width, height, parent, menu, module),
-				std::tuple(
-					nullptr, DWORD{WS_POPUP}, CW_USEDEFAULT, 0, 640, 480, nullptr, nullptr, GetModuleHandleW(nullptr)));
-			return nullptr;
-		});
-	expectInert("Failed to create listener window for volume events");
-}
-
-TEST(MonitorFailures, WithoutAClassThereIsNoMonitoring)
-{
-	const ImportOverride window("RegisterClassExW", &RegisterClassExW, [](const WNDCLASSEXW*) -> ATOM { return 0; });
-	expectInert("Failed to register WNDCLASS for monitoring volume events");
-}
-
-TEST(MonitorFailures, WithoutARegistrationThereIsNoMonitoring)
-{
-	const auto free = counted("ILFree", &ILFree);
-	const ImportOverride shell("SHChangeNotifyRegister", &SHChangeNotifyRegister, [](auto...) { return 0ul; });
-	expectInert("Failed to register for shell notifications");
-	EXPECT_EQ(free.calls(), 1) << "the folder that was to be watched";
+	EXPECT_TRUE(observer.waitFor(1)) << "what is there is reported";
 }
 
 TEST(MonitorFailures, WithoutAThreadStartThrowsAndMayBeTriedAgain)
 {
 	const FakeComputer computer(drives);
-	RecordingObserver observer;
 	VolumeEventMonitor monitor;
-	monitor.addObserver(&observer);
 	{
 		const ImportOverride thread("_beginthreadex", &_beginthreadex,
 			[](auto...) -> uintptr_t
@@ -117,7 +108,6 @@ TEST(MonitorFailures, WithoutAThreadStartThrowsAndMayBeTriedAgain)
 		}
 	}
 	EXPECT_TRUE(monitor.start());
-	EXPECT_TRUE(observer.waitFor(1));
 }
 
 TEST(MonitorFailures, ChangesOfNoItemAndOfItemsWithoutAPathAreIgnored)

@@ -46,23 +46,19 @@ TEST(VolumeInfo, IconAndTransferModeDependOnTheDriveThenOnTheFileSystem)
 {
 	// By the number of the file system.
 	const char* const endings[] = {"", "_Apple", "_Windows", "_Windows", "", "", "", ""};
-	for (int type = 0; type < 8; ++type)
+	for (int row = 0; row < 32; ++row)
 	{
-		for (const int drive : {0, 1, 2, 3})
-		{
-			VolumeInfo volume;
-			volume.fsType = static_cast<FileSystemType>(type);
-			volume.isRemovable = drive & 1;
-			volume.isReadOnly = volume.isNetwork = drive & 2;
-			const std::string ending = drive == 0 ? endings[type] : "";
-			const std::string text = textOf(volume);
-			EXPECT_TRUE(text.ends_with("\t\"fsType\" : " + std::to_string(type) +
-									   ",\n\t\"displayIcon\" : \"/content/images/Hard_Disk_White" + ending +
-									   ".png\",\n\t\"supportsReferenceTransfers\" : true,\n"
-									   "\t\"preferredTransferMode\" : \"" +
-									   (drive == 0 ? "reference" : "copy") + "\"\n}"))
-				<< text;
-		}
+		const bool isFixed = row % 4 == 0;
+		VolumeInfo volume;
+		volume.fsType = static_cast<FileSystemType>(row / 4);
+		volume.isRemovable = row & 1;
+		volume.isReadOnly = volume.isNetwork = row & 2;
+		json::Object object;
+		EXPECT_TRUE(volume.toJson(object));
+		EXPECT_EQ(object["fsType"], json::Number(row / 4));
+		EXPECT_EQ(object["displayIcon"],
+			json::String("/content/images/Hard_Disk_White" + std::string(isFixed ? endings[row / 4] : "") + ".png"));
+		EXPECT_EQ(object["preferredTransferMode"], json::String(isFixed ? "reference" : "copy"));
 	}
 }
 

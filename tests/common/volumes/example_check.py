@@ -31,13 +31,6 @@ class Example(unittest.TestCase):
 			self.check_volume(volume)
 		self.assertIn("file://localhost/C:", [volume["resource"] for volume in volumes])
 
-	def test_refuses_other_arguments(self):
-		for arguments in (["--wait"], ["--watch", "x"]):
-			result = self.run_example(*arguments)
-			self.assertEqual(result.returncode, 2)
-			self.assertIn("usage: ", result.stderr)
-			self.assertEqual(result.stdout, "")
-
 	def test_watches_until_it_is_interrupted(self):
 		with subprocess.Popen([*RUN, "--watch"], stdout=subprocess.PIPE, encoding="utf-8", start_new_session=True) as program:
 			# One object, up to the line that closes it.
