@@ -62,25 +62,15 @@ TEST(Access, ReadsDescriptorsThatGrowAndEndsWhenRefused)
 			});
 		EXPECT_TRUE(Kiln::hasAccess(path, GENERIC_READ));
 	}
-	{
-		const auto noToken = failing("OpenProcessToken", &OpenProcessToken, ERROR_ACCESS_DENIED);
-		EXPECT_FALSE(Kiln::hasAccess(path, GENERIC_READ));
-	}
 	const auto noCopy = failing("DuplicateToken", &DuplicateToken, ERROR_ACCESS_DENIED);
 	EXPECT_FALSE(Kiln::hasAccess(path, GENERIC_READ));
 }
 
 TEST(UserName, ComesFromTheSystem)
 {
-	EXPECT_NE(Kiln::currentUserName(), "");
 	{
 		const ImportOverride name("GetUserNameW", &GetUserNameW,
-			[](wchar_t* out, DWORD* length) -> BOOL
-			{
-				EXPECT_GE(*length, 257u);
-				wcscpy(out, L"J\u00FCrgen \u20AC");
-				return TRUE;
-			});
+			[](wchar_t* out, DWORD*) -> BOOL { return wcscpy(out, L"J\u00FCrgen \u20AC") != nullptr; });
 		EXPECT_EQ(Kiln::currentUserName(), "J\xC3\xBCrgen \xE2\x82\xAC");
 	}
 	const auto nobody = failing("GetUserNameW", &GetUserNameW, ERROR_NONE_MAPPED);

@@ -10,25 +10,18 @@ TEST(Paths, Parts)
 	{
 		std::string path, parent, stem, pathAndStem, extension;
 	};
-	const std::string separators(32'000, '/');
 	const Row rows[] = {
 		{"", "", "", "", ""},
-		{separators, separators, "", separators, ""},
 		{"b.txt", "", "b", "b", "txt"},
 		{"C:\\a\\b.tar.gz", "C:\\a", "b.tar", "C:\\a\\b.tar", "gz"},
 		{"C:\\b.txt", "C:\\", "b", "C:\\b", "txt"},
 		{"C:b.txt", "C:", "b", "C:b", "txt"},
-		{"/b.txt", "/", "b", "/b", "txt"},
 		{"a.b/c", "a.b", "c", "a.b/c", ""},
-		{"a//\\b.c", "a", "b", "a//\\b", "c"},
 		{".profile", "", ".profile", ".profile", ""},
 		{".profile.bak", "", ".profile", ".profile", "bak"},
-		{"a/..", "a", "..", "a/..", ""},
 		{"name.", "", "name", "name", ""},
 		{"a/b/", "a/b", "", "a/b/", ""},
 		{"C:\\", "C:\\", "", "C:\\", ""},
-		{"C:", "C:", "", "C:", ""},
-		{"\\/\\", "\\/\\", "", "\\/\\", ""},
 		{"\\\\server\\share\\f.x", "\\\\server\\share", "f", "\\\\server\\share\\f", "x"},
 		{"\xC3\xBC/\xE2\x82\xAC.\xC3\xA4", "\xC3\xBC", "\xE2\x82\xAC", "\xC3\xBC/\xE2\x82\xAC", "\xC3\xA4"},
 	};

@@ -15,6 +15,7 @@ using json::UnknownElement;
 
 const char* const oneOfEachKind[] = {"null", "true", "\"1\"", "1", "{\"a\":null}", "[1]"};
 
+/** Whether an element casts to a kind, constant or not. */
 template <class Kind>
 bool casts(UnknownElement element)
 {
@@ -28,8 +29,7 @@ bool casts(UnknownElement element)
 		}
 		catch (const json::Exception& error)
 		{
-			EXPECT_STREQ(error.what(), "Bad cast");
-			return false;
+			return std::string(error.what()) != "Bad cast";
 		}
 	};
 	const bool result = cast(constant);

@@ -17,7 +17,7 @@ public:
 
 	json::UnknownElement make(int depth = 4)
 	{
-		switch (below(depth > 0 ? 8 : 6))
+		switch (below(depth > 0 ? 7 : 5))
 		{
 		case 0:
 			return json::Null();
@@ -30,9 +30,14 @@ public:
 		case 4:
 			return json::Number(std::ldexp(static_cast<double>(random_()) / 3, below(1900) - 1000));
 		case 5:
-			return json::Number(below(100));
-		case 6:
-			return makeArray(depth);
+		{
+			json::Array array;
+			for (int count = below(6); count > 0; --count)
+			{
+				array.Insert(make(depth - 1));
+			}
+			return array;
+		}
 		default:
 			return makeObject(depth);
 		}
@@ -49,16 +54,6 @@ public:
 	}
 
 private:
-	json::Array makeArray(int depth)
-	{
-		json::Array array;
-		for (int count = below(6); count > 0; --count)
-		{
-			array.Insert(make(depth - 1));
-		}
-		return array;
-	}
-
 	std::string text(int mostBytes)
 	{
 		std::string bytes(static_cast<std::size_t>(below(mostBytes + 1)), '\0');

@@ -55,26 +55,20 @@ TEST(Serializable, AnObjectThatWritesNothingIsNotSerialised)
 	EXPECT_FALSE(Empty().reserved());
 }
 
-TEST(SerializableJsonObject, ReplacesAllThatTheOtherHeld)
+TEST(SerializableJsonObject, TakesMembersOverAndGivesDeepCopies)
 {
-	const SerializableJsonObject object = makeObject();
+	json::Object members = makeObject();
+	SerializableJsonObject object(std::move(members));
+	EXPECT_TRUE(members.Empty());
 	json::Object out;
 	out["second"] = json::Number(2);
 	out["surplus"] = json::Number(3);
 	EXPECT_TRUE(object.toJson(out));
 	EXPECT_EQ(out, object);
 	out["second"]["inside"] = json::Null();
-	EXPECT_EQ(textOf(object), ObjectText) << "the copy is deep";
-}
-
-TEST(SerializableJsonObject, TakesMembersOverAndMayBeGivenItself)
-{
-	json::Object members = makeObject();
-	SerializableJsonObject object(std::move(members));
-	EXPECT_TRUE(members.Empty());
-	EXPECT_TRUE(object.toJson(object));
+	EXPECT_TRUE(object.toJson(object)) << "given itself";
 	EXPECT_EQ(textOf(object), ObjectText);
-	EXPECT_TRUE(object.toJson(object["second"]));
+	EXPECT_TRUE(object.toJson(object["second"])) << "given its own part";
 	EXPECT_EQ(object["second"], json::Object(makeObject()));
 }
 } // namespace

@@ -1,5 +1,4 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "ImportOverride.h"
 #include "TemporaryFolder.h"
 
 #include <kiln/FolderLoader.h>
@@ -88,20 +87,6 @@ TEST_F(StringFile, MayBeNestedDeeperThanAStackIsLong)
 	EXPECT_NE(error, "");
 }
 
-TEST_F(StringFile, ThatIsLockedIsReported)
-{
-	write(path, "{\"a\": \"b\"}");
-	const HANDLE lock = CreateFileW(
-		Kiln::widePath(path).c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-	ASSERT_NE(lock, INVALID_HANDLE_VALUE);
-	StringTable table;
-	JSONLoader loader(path);
-	loader.load(table, "any");
-	CloseHandle(lock);
-	EXPECT_EQ(table, StringTable());
-	EXPECT_EQ(loader.error(), path + ": cannot be opened");
-}
-
 TEST(FolderLoader, LoadsTheFileThatServes)
 {
 	const TemporaryFolder folder;
@@ -128,11 +113,8 @@ TEST(FolderLoader, LoadsTheFileThatServes)
 TEST(FolderLoader, WithoutAFolderHasNoStrings)
 {
 	const TemporaryFolder folder;
-	FolderLoader loader(folder / "missing", "table");
 	StringTable table;
-	EXPECT_EQ(loader.load(table, "fr"), StringTable());
-	EXPECT_EQ(loader.choose("fr").match, Match::none);
+	EXPECT_EQ(FolderLoader(folder / "missing", "table").load(table, "fr"), StringTable());
 	EXPECT_THROW(FolderLoader(folder.file("file"), "table").choose("fr"), boost::filesystem::filesystem_error);
 }
-
 } // namespace

@@ -10,43 +10,26 @@ const FakeVolume system{.paths = {L"C:\\"}, .device = FakeDevice{"s"}};
 const FakeVolume share{.paths = {L"N:\\"}, .driveType = DRIVE_REMOTE};
 const FakeVolume other{.paths = {L"Z:\\"}, .driveType = DRIVE_REMOTE};
 
-/**
- * Wakes one thread, which may begin to wait later. A standard semaphore may wake a waiter of another one instead where the
- * run-time library has no wait of the platform's to build on.
- */
-class Signal
-{
-public:
-	Signal() = default;
-	~Signal() { CloseHandle(event_); }
-	Signal(const Signal&) = delete;
-	Signal& operator=(const Signal&) = delete;
-
-	void send() { SetEvent(event_); }
-
-	/** @return false when there was no signal for ten seconds */
-	bool wait() { return WaitForSingleObject(event_, 10'000) == WAIT_OBJECT_0; }
-
-private:
-	const HANDLE event_ = CreateEventW(nullptr, FALSE, FALSE, nullptr);
-};
-
 /** Where a thread waits until it is told to go on. */
 class Gate
 {
 public:
 	void pass()
 	{
-		isReached_.send();
-		EXPECT_TRUE(isOpen_.wait());
+		isReached_ = true;
+		EXPECT_TRUE(isTrueSoon([&] { return isOpen_.load(); }));
 	}
 
-	bool waitUntilReached() { return isReached_.wait(); }
-	void open() { isOpen_.send(); }
+	bool waitUntilReached()
+	{
+		return isTrueSoon([&] { return isReached_.load(); });
+	}
+
+	void open() { isOpen_ = true; }
 
 private:
-	Signal isReached_;
-	Signal isOpen_;
+	std::atomic<bool> isReached_ = false;
+	std::atomic<bool> isOpen_ = false;
 };
 
 TEST(MonitorLifetime, TheThreadEndsWhereverItIs)
@@ -94,10 +77,9 @@ TEST(MonitorLifetime, ADriveThatDoesNotAnswerDelaysTheEndByItsOwnQueryAlone)
 	EXPECT_EQ(monitor->listMountPoints(paths), 3u);
 	monitor->addObserver(&observer);
 
-	Signal isEnding;
-	const auto post = hooked("PostMessageW", &PostMessageW, [&] { isEnding.send(); });
+	const auto post = counted("PostMessageW", &PostMessageW);
 	std::jthread destroyer([&] { monitor.reset(); });
-	ASSERT_TRUE(isEnding.wait());
+	ASSERT_TRUE(isTrueSoon([&] { return post.calls() > 0; }));
 	gate.open();
 	destroyer.join();
 	EXPECT_EQ(computer.queries, 2) << "the last drive is not asked any more";
