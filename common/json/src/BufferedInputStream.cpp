@@ -1,128 +1,56 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "NumberText.h"
 #include <algorithm>
-#include <array>
 #include <kiln/BufferedInputStream.h>
 
 namespace Kiln
 {
-namespace
-{
-constexpr std::size_t PartSize = 16384;
-
-/** Whether bytes stand in a number, or begin one. */
-struct NumberBytes
-{
-	constexpr explicit NumberBytes(std::string_view bytes)
-	{
-		for (const char byte : bytes)
-		{
-			is[static_cast<unsigned char>(byte)] = true;
-		}
-	}
-
-	constexpr bool operator()(char byte) const { return is[static_cast<unsigned char>(byte)]; }
-
-	std::array<bool, 256> is{};
-};
-
-constexpr NumberBytes isInNumber("0123456789+-.eE");
-constexpr NumberBytes isOfInterest("0123456789-\"");
-constexpr NumberBytes endsPlainText("\"\\");
-} // namespace
-
 BufferedInputStream::BufferedInputStream(std::istream& stream, Numbers numbers)
-	: stream_(stream), numbers_(numbers), end_(block_.data())
+	: stream_(stream), numbers_(numbers), next_(block_.data()), end_(block_.data())
 {
 	read();
 }
 
+bool BufferedInputStream::append()
+{
+	constexpr std::size_t partSize = 16384;
+	const auto taken = static_cast<std::size_t>(next_ - block_.data());
+	const std::size_t dropped = (std::min)(taken, block_.size());
+	const std::size_t kept = block_.size() - dropped;
+	passed_ += dropped;
+	block_.erase(0, dropped);
+	if (stream_.good())
+	{
+		block_.resize(kept + partSize);
+		stream_.read(block_.data() + kept, partSize);
+		block_.resize(kept + static_cast<std::size_t>(stream_.gcount()));
+		std::replace(block_.begin() + static_cast<std::ptrdiff_t>(kept), block_.end(), '\0', '\1');
+	}
+	next_ = block_.data();
+	end_ = next_ + block_.size();
+	return block_.size() > kept;
+}
+
 void BufferedInputStream::read()
 {
-	// What stays is the beginning of a number.
-	const std::size_t taken = (std::min)(static_cast<std::size_t>(end_ - block_.data()), block_.size());
-	passed_ += taken;
-	searched_ -= taken;
-	number_ = 0;
-	block_.erase(0, taken);
+	prepared_ = nullptr;
+	if (!append())
+	{
+		++end_; // the NUL that ends every string
+	}
+}
+
+void BufferedInputStream::rewriteNumber()
+{
+	const auto isInNumber = [](char c)
+	{ return (c >= '0' && c <= '9') || c == '.' || c == '-' || c == '+' || c == 'e' || c == 'E'; };
 	std::size_t length = 0;
 	do
 	{
-		length = append();
-		rewriteNumbers();
-	} while (length > 0 && available() == 0);
-	if (length == 0 && place_ == Place::number)
-	{
-		rewriteNumber(block_.data() + block_.size());
-	}
-	next_ = block_.data();
-	// At the end the block is empty, but for the NUL that ends every string.
-	end_ = next_ + (std::max)(available(), std::size_t(1));
-}
-
-std::size_t BufferedInputStream::append()
-{
-	if (!stream_.good())
-	{
-		return 0;
-	}
-	const std::size_t before = block_.size();
-	block_.resize(before + PartSize);
-	char* const part = block_.data() + before;
-	stream_.read(part, PartSize);
-	const auto length = static_cast<std::size_t>(stream_.gcount());
-	std::replace(part, part + length, '\0', '\1');
-	block_.resize(before + length);
-	return length;
-}
-
-void BufferedInputStream::rewriteNumbers()
-{
-	char* const end = block_.data() + block_.size();
-	for (char* at = block_.data() + searched_; at != end;)
-	{
-		switch (place_)
-		{
-		case Place::outside:
-			at = std::find_if(at, end, isOfInterest);
-			if (at != end && *at == '"')
-			{
-				++at;
-				place_ = Place::text;
-			}
-			else if (at != end)
-			{
-				number_ = static_cast<std::size_t>(at - block_.data());
-				place_ = Place::number;
-			}
-			break;
-		case Place::text:
-			at = std::find_if(at, end, endsPlainText);
-			if (at != end)
-			{
-				place_ = *at++ == '"' ? Place::outside : Place::escape;
-			}
-			break;
-		case Place::escape:
-			++at;
-			place_ = Place::text;
-			break;
-		case Place::number:
-			at = std::find_if_not(at, end, isInNumber);
-			if (at != end)
-			{
-				rewriteNumber(at);
-			}
-			break;
-		}
-	}
-	searched_ = block_.size();
-}
-
-void BufferedInputStream::rewriteNumber(char* end)
-{
-	const std::span<char> number(block_.data() + number_, end);
+		length = static_cast<std::size_t>(std::find_if_not(next_ + length, end_, isInNumber) - next_);
+	} while (next_ + length == end_ && append());
+	const std::span<char> number(block_.data() + (next_ - block_.data()), length);
 	numbers_ == Numbers::exact ? makeExact(number) : makeZero(number);
-	place_ = Place::outside;
+	prepared_ = next_;
 }
 } // namespace Kiln

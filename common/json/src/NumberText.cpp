@@ -11,8 +11,8 @@ namespace Kiln
 {
 namespace
 {
-/** Without an exponent, numbers of so few bytes have an integer below 2^53 and a power of ten that both are exact. */
-constexpr std::size_t AlwaysExact = 16;
+/** Without an exponent, numbers of so few bytes are none of those that the parser gets wrong: it has that power of ten. */
+constexpr std::size_t LongestExact = 24;
 
 constexpr std::string_view TooBig = "1e999";
 
@@ -107,8 +107,8 @@ void replace(std::span<char> number, std::string_view text)
 void makeExact(std::span<char> number)
 {
 	const std::string_view text(number.data(), number.size());
-	const bool hasExponent = text.find_first_of("eE") != text.npos;
-	if ((!hasExponent && text.size() <= AlwaysExact) || !isNumber(text) || isWithin<std::int64_t>(text) ||
+	const bool hasExponent = std::any_of(text.begin(), text.end(), [](char c) { return c == 'e' || c == 'E'; });
+	if ((!hasExponent && text.size() <= LongestExact) || !isNumber(text) || isWithin<std::int64_t>(text) ||
 		isWithin<std::uint64_t>(text))
 	{
 		return;

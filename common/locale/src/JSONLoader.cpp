@@ -56,7 +56,7 @@ StringTable& JSONLoader::load(StringTable& result, const std::string&)
 	}
 	skipByteOrderMark(file);
 	// A number that nobody reads is no reason to lose the texts.
-	BufferedInputStream input(file, BufferedInputStream::Numbers::ignored);
+	BufferedInputStream input(file, Numbers::ignored);
 	rapidjson::Document document;
 	document.ParseStream<rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag>(input);
 	if (document.HasParseError())

@@ -70,7 +70,11 @@ TEST(UserName, ComesFromTheSystem)
 {
 	{
 		const ImportOverride name("GetUserNameW", &GetUserNameW,
-			[](wchar_t* out, DWORD*) -> BOOL { return wcscpy(out, L"J\u00FCrgen \u20AC") != nullptr; });
+			[](wchar_t* out, DWORD* length) -> BOOL
+			{
+				EXPECT_EQ(*length, 257u);
+				return wcscpy(out, L"J\u00FCrgen \u20AC") != nullptr;
+			});
 		EXPECT_EQ(Kiln::currentUserName(), "J\xC3\xBCrgen \xE2\x82\xAC");
 	}
 	const auto nobody = failing("GetUserNameW", &GetUserNameW, ERROR_NONE_MAPPED);
