@@ -29,9 +29,7 @@ ItemList computerFolder()
 
 ULONG registerForShellChanges(HWND window, PCIDLIST_ABSOLUTE folder)
 {
-	SHChangeNotifyEntry entry{};
-	entry.pidl = folder;
-	entry.fRecursive = FALSE;
+	const SHChangeNotifyEntry entry{folder, FALSE}; // not what is below its items
 	return SHChangeNotifyRegister(window, sources, events, shellChangeMessage, 1, &entry);
 }
 

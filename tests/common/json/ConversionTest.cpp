@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <kiln/CajunTypeResolver.h>
-#include <limits>
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
 
@@ -49,8 +48,7 @@ TEST(Conversion, IntegersOf64BitsAreTheNearestDoubleWithAllItsDigits)
 
 TEST(Conversion, NumbersWithoutAnIntegerStayDoubles)
 {
-	for (const double value : {0.5, -0.0, 18446744073709551616.0, -9223372036854777856.0, 1e300,
-			 std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()})
+	for (const double value : {0.5, -0.0, 18446744073709551616.0, -9223372036854777856.0, HUGE_VAL, std::nan("")})
 	{
 		rapidjson::Document document;
 		Kiln::toRapidJson(json::UnknownElement(json::Number(value)), document);

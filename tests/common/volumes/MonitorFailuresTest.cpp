@@ -97,15 +97,9 @@ TEST(MonitorFailures, WithoutAThreadStartThrowsAndMayBeTriedAgain)
 				errno = EAGAIN;
 				return 0;
 			});
-		try
-		{
-			monitor.start();
-			FAIL() << "started without a thread";
-		}
-		catch (const std::system_error& error)
-		{
-			EXPECT_EQ(error.code(), std::errc::resource_unavailable_try_again);
-		}
+		EXPECT_THAT([&] { monitor.start(); },
+			testing::Throws<std::system_error>(
+				testing::Property(&std::system_error::code, std::errc::resource_unavailable_try_again)));
 	}
 	EXPECT_TRUE(monitor.start());
 }

@@ -146,16 +146,12 @@ TEST(MonitorLifetime, AnOverridingClassStopsForGood)
 {
 	struct Stopping : VolumeEventMonitor
 	{
-		~Stopping() override { stop(); }
-		bool startAgain()
-		{
-			stop();
-			return start();
-		}
+		using VolumeEventMonitor::stop;
 	} monitor;
 	const FakeComputer computer({system});
 	EXPECT_TRUE(monitor.start());
-	EXPECT_FALSE(monitor.startAgain());
+	monitor.stop();
+	EXPECT_FALSE(monitor.start());
 }
 
 TEST(MonitorLifetime, ComIsLeftOnceOnTheThreadThatDestroys)
