@@ -101,9 +101,11 @@ FTableGrader::FTableGrader(const FGrading& InGrading, const FLookTable& InTable,
 	{
 		const auto PlaceFor = [&, Channel](double Light)
 		{ return Cube.PlaceOf(Channel, Shaped(Table, Channel, GradedValue(Grading[Channel], Light))); };
+		const double FirstLit = LeastLightFor(Grading[Channel], 0.0);
+		Darkest[Channel] = std::isfinite(FirstLit) ? FirstLit : 0.0;
 		// Black is the first step's begin, and most of what is in that step.
-		PlacesByLight[Channel] = TLightTable<FPlace>(
-			[&](double Begin, double End) { return PlaceFor(Begin > 0.0 ? (Begin + End) / 2.0 : 0.0); });
+		PlacesByLight[Channel] = TLightTable<FPlace>([&](double Begin, double End)
+			{ return PlaceFor(Darkest[Channel] + (Begin > 0.0 ? (Begin + End) / 2.0 : 0.0)); });
 		for (std::size_t Value = 0; Value < PlacesByValue[Channel].size(); ++Value)
 		{
 			PlacesByValue[Channel][Value] = PlaceFor(Decoded(static_cast<double>(Value) / 255.0));
@@ -122,7 +124,8 @@ void FTableGrader::Grade(const std::uint8_t* Source, std::uint8_t* Target, std::
 		const auto ByLight = [this](const std::uint8_t* Pixel) -> FPlaces
 		{
 			const auto [Red, Green, Blue] = Mixer.Mix(Pixel);
-			return {PlacesByLight[0].At(Red), PlacesByLight[1].At(Green), PlacesByLight[2].At(Blue)};
+			return {PlacesByLight[0].At(Red - Darkest[0]), PlacesByLight[1].At(Green - Darkest[1]),
+				PlacesByLight[2].At(Blue - Darkest[2])};
 		};
 		GradeBy(ByLight, Source, Target, PixelCount);
 	}

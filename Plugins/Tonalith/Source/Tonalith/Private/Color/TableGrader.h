@@ -73,6 +73,11 @@ private:
 	const FLookTable& Table;
 	const FPackedCube& Cube;
 	FLightMixer Mixer;
+
+	/** The light up to which all is black. */
+	std::array<double, 3> Darkest;
+
+	/** Over the light beyond that: values change fastest right there. */
 	std::array<TLightTable<FPlace>, 3> PlacesByLight;
 
 	/** For each stored value; used without saturation, when channels do not mix. */
