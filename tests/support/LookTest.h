@@ -88,15 +88,15 @@ protected:
 
 	static UTonalithObject* Cold() { return Look(ColdPath); }
 
+	/** Null when there is none. */
+	static UTonalithObject* Look(const TCHAR* Path)
+	{
+		return static_cast<UTonalithObject*>(StaticLoadObject(UTonalithObject::StaticClass(), Path));
+	}
+
 	/** The editor module's library, for replaced imports; mapped if the session has not started it yet. */
 	static HMODULE EditorLibrary()
 	{
 		return LoadLibraryW(TEXT(EDITOR_TEST_PLUGINS) TEXT("/Tonalith/Binaries/Win64/UnrealEditor-TonalithEditor.dll"));
-	}
-
-private:
-	static UTonalithObject* Look(const TCHAR* Path)
-	{
-		return static_cast<UTonalithObject*>(StaticLoadObject(UTonalithObject::StaticClass(), Path));
 	}
 };

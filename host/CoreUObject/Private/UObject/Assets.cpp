@@ -55,7 +55,8 @@ UObject* Load(const FAssetData& Asset)
 		return nullptr;
 	}
 	UPackage* Package = CreatePackage(*Asset.PackageName.ToString());
-	UObject* Object = StaticConstructObject(Class, Package, Asset.AssetName, RF_Public | RF_Standalone);
+	UObject* Object =
+		StaticConstructObject(Class, Package, Asset.AssetName, RF_Public | RF_Standalone | RF_Transactional);
 	HostConfig::Read(*Object, HostConfig::Lasting, Section, FileOf(Asset));
 	return Object;
 }

@@ -1,6 +1,8 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "UObject/UObjectGlobals.h"
 
+#include "UObject/UnrealType.h"
+
 namespace
 {
 FName UniqueName(UObject* Outer, const UClass& Class)
@@ -44,6 +46,13 @@ UObject* StaticConstructObject(UClass* Class, UObject* Outer, FName Name, EObjec
 	UObject* Object = static_cast<UObject*>(::operator new(static_cast<size_t>(Class->GetPropertiesSize())));
 	const FObjectInitializer Initializer(Object, Class, Outer, Used, Flags);
 	Class->ClassConstructor(Initializer);
+	for (const auto& Property : Class->GetOwnProperties())
+	{
+		if (Property->HasAnyPropertyFlags(CPF_Config) && !Object->HasAnyFlags(RF_ClassDefaultObject))
+		{
+			Property->ReadLines(Property->ToLines(Class->GetDefaultObject()), Object);
+		}
+	}
 	return Object;
 }
 

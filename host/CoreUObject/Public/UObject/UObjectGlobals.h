@@ -5,7 +5,7 @@
 #include "UObject/Class.h"
 #include "UObject/Package.h"
 
-/** Makes an object. NAME_None gives a name made of the class's. Fatal for an abstract class or a name in use. */
+/** Makes an object; config properties are as in the default object. NAME_None gives a name made of the class's. Fatal for an abstract class or a name in use. */
 COREUOBJECT_API UObject* StaticConstructObject(UClass* Class, UObject* Outer, FName Name, EObjectFlags Flags);
 
 /** Finds the package or makes it. */
