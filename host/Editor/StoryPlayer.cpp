@@ -1,8 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "StoryPlayer.h"
 
-#include "EditorDriver.h"
-#include "Misc/OutputDeviceRedirector.h"
 #include "Misc/Paths.h"
 
 #include <cstdio>
@@ -23,22 +21,8 @@ constexpr const char* QuitVerb = "quit";
 std::string ReadFile(const fs::path& Path)
 {
 	std::ifstream Stream(Path, std::ios::binary);
-	if (!Stream)
-	{
-		throw FDriverError(FString(Path.generic_wstring().c_str()) + TEXT(" cannot be read"));
-	}
+	FDriverError::Unless(Stream.is_open(), TEXT("%s cannot be read"), Path.generic_wstring().c_str());
 	return std::string(std::istreambuf_iterator<char>(Stream), {});
-}
-
-/** The text with the line ends that the editor writes, whatever the file was checked out with. */
-std::string WithEditorLineEnds(const std::string& Text)
-{
-	std::string Result;
-	for (const char Character : Text)
-	{
-		Result += Character == '\r' ? "" : Character == '\n' ? "\r\n" : std::string(1, Character);
-	}
-	return Result;
 }
 
 class FStoryPlayer : private FOutputDevice
@@ -93,49 +77,42 @@ public:
 	{
 		const bool bIsPane = Arguments.Num() < 2;
 		const FPicture Picture = bIsPane ? Driver.TakePicture() : Driver.Windows().Picture(Arguments[1]);
-		if (!::SavePicture(Picture, PictureFile(Arguments[0]).generic_wstring().c_str()))
-		{
-			throw FDriverError(Arguments[0] + TEXT(" cannot be written"));
-		}
+		const bool bIsSaved = ::SavePicture(Picture, PictureFile(Arguments[0]).generic_wstring().c_str());
+		FDriverError::Unless(bIsSaved, TEXT("%s cannot be written"), *Arguments[0]);
 		Report.AddPicture(Picture, TCHAR_TO_UTF8(*Arguments[0]), bIsPane);
 	}
 
 	void ExpectPicture(bool bLike, const FString& Name)
 	{
-		if ((ReadFile(PictureFile(Name)) == EncodePicture(Driver.TakePicture())) != bLike)
-		{
-			throw FDriverError(TEXT("the active pane does not show what is expected of ") + Name);
-		}
+		const bool bIsLike = ReadFile(PictureFile(Name)) == EncodePicture(Driver.TakePicture());
+		FDriverError::Unless(bIsLike == bLike, TEXT("the active pane does not show what is expected of %s"), *Name);
 	}
 
 	void ExpectLog(const FString& Text)
 	{
-		if (!Log.ContainsByPredicate([&Text](const FString& Line)
-				{ return std::wstring_view(*Line).find(*Text) != std::wstring_view::npos; }))
-		{
-			throw FDriverError(TEXT("the log does not hold \"") + Text + TEXT("\""));
-		}
+		const bool bIsThere = Log.ContainsByPredicate(
+			[&Text](const FString& Line) { return std::wstring_view(*Line).find(*Text) != std::wstring_view::npos; });
+		FDriverError::Unless(bIsThere, TEXT("the log does not hold \"%s\""), *Text);
 	}
 
 	/** A whole row, whatever its depth. */
 	void ExpectMenu(const FString& Row)
 	{
-		const std::string Menu = TCHAR_TO_UTF8(*Driver.Menus().Text());
-		if (("\n" + Menu).find(std::string("\n") + TCHAR_TO_UTF8(*Row) + "\n") == std::string::npos &&
-			Menu.find(std::string("  ") + TCHAR_TO_UTF8(*Row) + "\n") == std::string::npos)
-		{
-			throw FDriverError(FString::Printf(
-				TEXT("no row of the open menus is \"%s\", only:\n%s"), *Row, UTF8_TO_TCHAR(Menu.c_str())));
-		}
+		const FString Menu = TEXT("\n") + Driver.Menus().Text();
+		const std::wstring_view Rows(*Menu);
+		const bool bIsThere = Rows.find(*(TEXT("\n") + Row + TEXT("\n"))) != Rows.npos ||
+							  Rows.find(*(TEXT("  ") + Row + TEXT("\n"))) != Rows.npos;
+		FDriverError::Unless(bIsThere, TEXT("no row of the open menus is \"%s\", only:%s"), *Row, *Menu);
 	}
 
+	/** Line ends do not count. */
 	void ExpectFile(const FString& File, const FString& Expected)
 	{
-		const std::string Actual = ReadFile(InProject(*File));
-		if (Actual != WithEditorLineEnds(ReadFile(Story.Folder() / *Expected)))
-		{
-			throw FDriverError(FString(TEXT("the file is another one:\n")) + UTF8_TO_TCHAR(Actual.c_str()));
-		}
+		std::string Actual = ReadFile(InProject(*File));
+		std::string Wanted = ReadFile(Story.Folder() / *Expected);
+		std::erase(Actual, '\r');
+		std::erase(Wanted, '\r');
+		FDriverError::Unless(Actual == Wanted, TEXT("the file is another one:\n%s"), UTF8_TO_TCHAR(Actual.c_str()));
 	}
 
 	void Import(const FString& File, const FString& Folder)

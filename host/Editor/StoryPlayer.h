@@ -2,7 +2,6 @@
 // Plays a story through the driver and prints each step with what the editor logged meanwhile.
 #pragma once
 
-#include "LaunchEngineLoop.h"
 #include "Report.h"
 #include "Story.h"
 

@@ -65,8 +65,8 @@ def type_source(module, owner):
              f"\t\t{kind}* Type = HostReflection::{make};"]
     for item in owner.properties:
         flags = [flag for word, flag in PROPERTY_FLAGS.items() if word in item.specifiers] or ["CPF_None"]
-        declaration = f'{{TEXT("{item.name}"), offsetof({name}, {item.name}), {" | ".join(flags)}}}'
-        lines.append(f"\t\tHostReflection::AddProperty<decltype({name}::{item.name})>(Type, {declaration});")
+        made = f'(TEXT("{item.name}"), offsetof({name}, {item.name}), {" | ".join(flags)})'
+        lines.append(f"\t\tType->Properties.push_back(std::make_shared<TProperty<decltype({name}::{item.name})>>{made});")
     return lines + ["\t\treturn Type;", "\t}", "};", f"HOST_DEFINE_{owner.kind.word.upper()}({name})", ""]
 
 

@@ -113,10 +113,10 @@ TEST_F(Assets, ViewportsReadBackTheChartThatWasDrawn)
 	const FPicture Picture = Driver.TakePicture();
 	ASSERT_EQ(Picture.Size, FIntPoint(16, 8));
 	ASSERT_EQ(Picture.Pixels.Num(), 16 * 8);
-	// Red is the hue on the left; the patches begin with the three primaries; the ramp ends in white.
-	EXPECT_EQ(Picture.Pixels[0], FColor(255, 0, 0, 0));
-	EXPECT_EQ(Picture.Pixels[4 * 16 + 2], FColor(0, 255, 0, 0));
-	EXPECT_EQ(Picture.Pixels[4 * 16 + 15], FColor(87, 108, 67, 0));
+	// Red grows and blue falls to the right, green grows downwards; the ramp ends in white.
+	EXPECT_EQ(Picture.Pixels[0], FColor(0, 0, 255, 0));
+	EXPECT_EQ(Picture.Pixels[15], FColor(255, 0, 0, 0));
+	EXPECT_EQ(Picture.Pixels[5 * 16], FColor(0, 182, 255, 0));
 	EXPECT_EQ(Picture.Pixels[7 * 16], FColor(0, 0, 0, 0));
 	EXPECT_EQ(Picture.Pixels[7 * 16 + 15], FColor(255, 255, 255, 0));
 }

@@ -3,8 +3,6 @@
 
 #include "Factories/Factory.h"
 #include "Host/Assets.h"
-#include "Host/Trace.h"
-#include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
 
 IMPLEMENT_HOST_MODULE(FAssetToolsModule, AssetTools)

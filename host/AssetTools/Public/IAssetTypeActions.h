@@ -3,7 +3,8 @@
 
 #include "AssetRegistry/AssetData.h"
 #include "AssetTypeCategories.h"
-#include "Toolkits/IToolkitHost.h"
+
+class IToolkitHost;
 
 enum class EAssetTypeActivationOpenedMethod : uint8
 {

@@ -25,60 +25,52 @@ FString Unwrap(const FString& Text, const TCHAR* First, const TCHAR* Last)
 	const bool bIsWrapped = Text.Len() > 1 && Text.StartsWith(First) && Text.EndsWith(Last);
 	return bIsWrapped ? Text.Mid(1, Text.Len() - 2) : Text;
 }
+
+/** The value of a line of that key. Neither "+" nor any other prefix means anything here: it is part of the key. */
+const FString* ValueOf(const FString& Line, const TCHAR* Key, FString& OutValue)
+{
+	const int32 Equals = Line.StartsWith(TEXT(";")) ? INDEX_NONE : Line.Find(TEXT("="));
+	OutValue = Unwrap(Trim(Line.Mid(Equals + 1)), TEXT("\""), TEXT("\""));
+	return Equals != INDEX_NONE && Trim(Line.Mid(0, Equals)) == Key ? &OutValue : nullptr;
+}
 } // namespace
 
-FConfigCacheIni::FFile FConfigCacheIni::Read(const FString& Filename)
+std::vector<FConfigCacheIni::FSection>& FConfigCacheIni::Open(const FString& Filename)
 {
-	FFile File;
-	FString Section;
-	const auto EndSection = [&File, &Section]
+	std::vector<FSection>& File = Files.FindOrAdd(Filename);
+	if (!File.empty())
 	{
-		if (!Section.IsEmpty() && !File.back().Text.IsEmpty())
-		{
-			File.push_back({FString(), Section});
-		}
-	};
+		return File;
+	}
+	File.emplace_back();
 	std::ifstream Stream{std::filesystem::path(*Filename), std::ios::binary};
 	for (std::string Bytes; std::getline(Stream, Bytes);)
 	{
-		const bool bHasMark = File.empty() && Bytes.starts_with("\xEF\xBB\xBF");
+		const bool bHasMark = File.size() == 1 && Bytes.starts_with("\xEF\xBB\xBF");
 		const FString Text = Trim(UTF8_TO_TCHAR(Bytes.c_str() + (bHasMark ? 3 : 0)));
-		if (const FString Name = Unwrap(Text, TEXT("["), TEXT("]")); Name.Len() < Text.Len())
+		const FString Name = Unwrap(Text, TEXT("["), TEXT("]"));
+		if (Name.Len() < Text.Len())
 		{
-			EndSection();
-			Section = Name;
+			File.push_back({Name, {}});
+			continue;
 		}
-		FLine& Line = File.emplace_back(FLine{Text, Section});
-		// Neither "+" nor any other prefix means anything here: it is part of the key.
-		const int32 Equals = Text.StartsWith(TEXT(";")) ? INDEX_NONE : Text.Find(TEXT("="));
-		if (Equals != INDEX_NONE)
-		{
-			Line.Key = Trim(Text.Mid(0, Equals));
-			Line.Value = Unwrap(Trim(Text.Mid(Equals + 1)), TEXT("\""), TEXT("\""));
-		}
+		File.back().Lines.push_back(Text);
 	}
-	EndSection();
 	return File;
-}
-
-FConfigCacheIni::FFile& FConfigCacheIni::Open(const FString& Filename)
-{
-	if (!Files.Contains(Filename))
-	{
-		Files.Add(Filename, Read(Filename));
-	}
-	return *Files.Find(Filename);
 }
 
 int32 FConfigCacheIni::GetArray(
 	const TCHAR* Section, const TCHAR* Key, TArray<FString>& OutValues, const FString& Filename)
 {
 	OutValues.Empty();
-	for (const FLine& Line : Open(Filename))
+	for (const FSection& Each : Open(Filename))
 	{
-		if (Line.Section == Section && Line.Key == Key)
+		for (const FString& Line : Each.Lines)
 		{
-			OutValues.Add(Line.Value);
+			if (FString Value; Each.Name == Section && ValueOf(Line, Key, Value))
+			{
+				OutValues.Add(Value);
+			}
 		}
 	}
 	return OutValues.Num();
@@ -87,25 +79,22 @@ int32 FConfigCacheIni::GetArray(
 void FConfigCacheIni::SetArray(
 	const TCHAR* Section, const TCHAR* Key, const TArray<FString>& Values, const FString& Filename)
 {
-	FFile& File = Open(Filename);
-	const auto IsOurs = [&](const FLine& Line) { return Line.Section == Section && Line.Key == Key; };
-	const auto IsText = [&](const FLine& Line) { return Line.Section == Section && !Line.Text.IsEmpty(); };
-	if (std::none_of(File.begin(), File.end(), IsText))
-	{
-		File.push_back({FString(TEXT("[")) + Section + TEXT("]"), Section});
-		File.push_back({FString(), Section});
-	}
+	std::vector<FSection>& File = Open(Filename);
+	auto Found = std::find_if(File.begin(), File.end(), [&](const FSection& Each) { return Each.Name == Section; });
+	Found = Found == File.end() ? File.insert(Found, {Section, {}}) : Found;
+	std::vector<FString>& Lines = Found->Lines;
+	FString Ignored;
+	const auto IsOurs = [&](const FString& Line) { return ValueOf(Line, Key, Ignored) != nullptr; };
+	const auto IsText = [](const FString& Line) { return !Line.IsEmpty(); };
 	// A new key goes before the empty lines that part its section from the next.
-	const auto First = std::find_if(File.begin(), File.end(), IsOurs);
-	const auto Last = std::find_if(File.rbegin(), File.rend(), IsText).base();
-	const auto Place = (First != File.end() ? First : Last) - File.begin();
-	File.erase(std::remove_if(File.begin() + Place, File.end(), IsOurs), File.end());
-	FFile Lines;
-	for (const FString& Value : Values)
+	const auto First = std::find_if(Lines.begin(), Lines.end(), IsOurs);
+	const auto Last = std::find_if(Lines.rbegin(), Lines.rend(), IsText).base();
+	const auto Place = (First != Lines.end() ? First : Last) - Lines.begin();
+	std::erase_if(Lines, IsOurs);
+	for (int32 Index = 0; Index < Values.Num(); ++Index)
 	{
-		Lines.push_back({FString(Key) + TEXT("=") + Value, Section, Key, Value});
+		Lines.insert(Lines.begin() + Place + Index, FString(Key) + TEXT("=") + Values[Index]);
 	}
-	File.insert(File.begin() + Place, Lines.begin(), Lines.end());
 }
 
 void FConfigCacheIni::Flush(bool bRemoveFromCache, const FString& Filename)
@@ -114,9 +103,15 @@ void FConfigCacheIni::Flush(bool bRemoveFromCache, const FString& Filename)
 	std::error_code Ignored;
 	std::filesystem::create_directories(Path.parent_path(), Ignored);
 	std::ofstream Stream(Path, std::ios::binary);
-	for (const FLine& Line : Open(Filename))
+	for (const FSection& Section : Open(Filename))
 	{
-		Stream << TCHAR_TO_UTF8(*Line.Text) << "\r\n";
+		const bool bIsNamed = !Section.Name.IsEmpty();
+		Stream << (bIsNamed ? TCHAR_TO_UTF8(*(TEXT("[") + Section.Name + TEXT("]\r\n"))) : "");
+		for (const FString& Line : Section.Lines)
+		{
+			Stream << TCHAR_TO_UTF8(*Line) << "\r\n";
+		}
+		Stream << (bIsNamed && (Section.Lines.empty() || !Section.Lines.back().IsEmpty()) ? "\r\n" : "");
 	}
 	if (!Stream.flush())
 	{

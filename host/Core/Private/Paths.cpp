@@ -2,7 +2,6 @@
 #include "Misc/Paths.h"
 
 #include "CoreGlobals.h"
-#include "Host/Project.h"
 
 #include <filesystem>
 
@@ -55,10 +54,4 @@ bool FPaths::FileExists(const FString& Path)
 {
 	std::error_code Ignored;
 	return std::filesystem::is_regular_file(*Path, Ignored);
-}
-
-bool FPaths::DirectoryExists(const FString& Path)
-{
-	std::error_code Ignored;
-	return std::filesystem::is_directory(*Path, Ignored);
 }

@@ -3,13 +3,10 @@
 
 #include "Host/Assets.h"
 #include "Host/ContentBrowser.h"
-#include "Host/Trace.h"
 #include "LevelEditor.h"
-#include "Misc/Paths.h"
 #include "RedirectMachineFolder.h"
 #include "SLevelViewport.h"
 #include "Subsystems/AssetEditorSubsystem.h"
-#include "UObject/UObjectGlobals.h"
 
 namespace
 {
@@ -19,14 +16,10 @@ FLevelEditorModule& LevelEditor()
 }
 } // namespace
 
-FDriverError::FDriverError(const FString& Reason) : std::runtime_error(TCHAR_TO_UTF8(*Reason)) {}
-
 void FEditorDriver::Start(const FEngineLoopOptions& Options)
 {
-	if (!RedirectMachineFolder(FPaths::Combine(Options.ProjectFolder, TEXT("ProgramData"))))
-	{
-		throw FDriverError(TEXT("the machine-wide folder cannot be redirected"));
-	}
+	FDriverError::Unless(RedirectMachineFolder(FPaths::Combine(Options.ProjectFolder, TEXT("ProgramData"))),
+		TEXT("the machine-wide folder cannot be redirected"));
 	Loop.Init(Options);
 	bIsRunning = true;
 }
@@ -45,10 +38,7 @@ void FEditorDriver::DestroyWorld(UWorld& World)
 SLevelViewport& FEditorDriver::Pane(const FString& Key) const
 {
 	const TSharedPtr<SLevelViewport> Found = LevelEditor().FindPane(FName(*Key));
-	if (!Found.IsValid())
-	{
-		throw FDriverError(FString::Printf(TEXT("no pane \"%s\" is open"), *Key));
-	}
+	FDriverError::Unless(Found.IsValid(), TEXT("no pane \"%s\" is open"), *Key);
 	return *Found;
 }
 
@@ -66,10 +56,7 @@ void FEditorDriver::OpenPane(const FString& Key)
 void FEditorDriver::SetLayout(const FString& Layout)
 {
 	HostTrace::Line(TEXT("layout %s"), *Layout);
-	if (!LevelEditor().SetLayout(Layout))
-	{
-		throw FDriverError(FString::Printf(TEXT("no layout \"%s\""), *Layout));
-	}
+	FDriverError::Unless(LevelEditor().SetLayout(Layout), TEXT("no layout \"%s\""), *Layout);
 }
 
 void FEditorDriver::ClosePane(const FString& Key)
@@ -93,10 +80,7 @@ void FEditorDriver::ResizePane(const FString& Key, FIntPoint Size)
 TSharedRef<SLevelViewport> FEditorDriver::ActivePane()
 {
 	const TSharedPtr<IAssetViewport> Active = GEditor->GetActivePane();
-	if (!Active.IsValid())
-	{
-		throw FDriverError(TEXT("no pane is open"));
-	}
+	FDriverError::Unless(Active.IsValid(), TEXT("no pane is open"));
 	return StaticCastSharedPtr<SLevelViewport>(Active).ToSharedRef();
 }
 
@@ -110,10 +94,7 @@ FPicture FEditorDriver::TakePicture(IAssetViewport& Pane)
 	FViewport& Viewport = *Pane.GetActiveViewport();
 	Viewport.Draw();
 	FPicture Picture{Viewport.GetSizeXY(), {}};
-	if (!Viewport.ReadPixels(Picture.Pixels))
-	{
-		throw FDriverError(TEXT("the pane shows nothing"));
-	}
+	FDriverError::Unless(Viewport.ReadPixels(Picture.Pixels), TEXT("the pane shows nothing"));
 	return Picture;
 }
 
@@ -180,10 +161,7 @@ const FWindowDriver& FEditorDriver::Windows()
 
 void FEditorDriver::UnloadModule(const FString& Name)
 {
-	if (!FModuleManager::Get().UnloadModule(FName(*Name)))
-	{
-		throw FDriverError(FString::Printf(TEXT("module \"%s\" is not loaded"), *Name));
-	}
+	FDriverError::Unless(FModuleManager::Get().UnloadModule(FName(*Name)), TEXT("no module \"%s\" is loaded"), *Name);
 }
 
 void FEditorDriver::Quit()

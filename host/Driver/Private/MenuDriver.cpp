@@ -1,8 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "MenuDriver.h"
 
 #include "EditorDriver.h"
-#include "Framework/Application/SlateApplication.h"
 #include "Host/MenuRow.h"
 #include "SLevelViewport.h"
 

@@ -7,7 +7,6 @@
 #include "Host/PropertyRow.h"
 #include "Widgets/Images/SImage.h"
 #include "Widgets/Input/SSlider.h"
-#include "Widgets/SWindow.h"
 
 namespace
 {
@@ -34,10 +33,7 @@ WidgetType& FindWidget(const FString& Title, const FString& What, Predicate Fits
 			WidgetType* Candidate = dynamic_cast<WidgetType*>(&Widget);
 			Found = !Found && Candidate && Fits(*Candidate) ? Candidate : Found;
 		});
-	if (!Found)
-	{
-		throw FDriverError(FString::Printf(TEXT("the window \"%s\" shows no %s"), *Title, *What));
-	}
+	FDriverError::Unless(Found, TEXT("the window \"%s\" shows no %s"), *Title, *What);
 	return *Found;
 }
 

@@ -5,7 +5,6 @@
 #include "Editor.h"
 #include "LaunchEngineLoop.h"
 #include "MenuDriver.h"
-#include "Picture.h"
 #include "WindowDriver.h"
 
 #include <stdexcept>
@@ -16,7 +15,17 @@ class SLevelViewport;
 class FDriverError : public std::runtime_error
 {
 public:
-	explicit FDriverError(const FString& Reason);
+	explicit FDriverError(const FString& Reason) : std::runtime_error(TCHAR_TO_UTF8(*Reason)) {}
+
+	/** Throws, with the arguments put into the reason, unless something is true. */
+	template <size_t Size, typename... ArgTypes>
+	static void Unless(bool bIsTrue, const TCHAR (&Reason)[Size], ArgTypes... Args)
+	{
+		if (!bIsTrue)
+		{
+			throw FDriverError(FString::Printf(Reason, Args...));
+		}
+	}
 };
 
 /**

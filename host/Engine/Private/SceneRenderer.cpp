@@ -5,7 +5,7 @@
 #include "Engine/Engine.h"
 #include "LookupTables.h"
 #include "SceneView.h"
-#include "Scenes.h"
+#include "StageScene.h"
 
 #include <algorithm>
 #include <cmath>
@@ -59,6 +59,18 @@ FColor Graded(const FColor& Plain, const FPostProcessSettings& Settings)
 }
 
 EHostScene Shown = EHostScene::Chart;
+
+/**
+ * Red grows from left to right, blue falls, green grows from top to bottom; the last quarter is a ramp from black to white.
+ * Alpha is 0, as scenes leave it.
+ */
+FColor ChartColor(FIntPoint Pixel, FIntPoint Size)
+{
+	const auto Share = [](int32 At, int32 Count) { return static_cast<uint8>(255 * At / std::max(Count - 1, 1)); };
+	const uint8 Across = Share(Pixel.X, Size.X);
+	return Pixel.Y < Size.Y * 3 / 4 ? FColor(Across, Share(Pixel.Y, Size.Y), static_cast<uint8>(255 - Across), 0)
+									: FColor(Across, Across, Across, 0);
+}
 
 /** The mean of four places in the pixel. */
 FColor StageColor(FIntPoint Pixel, FIntPoint Size)

@@ -2,7 +2,6 @@
 #include "SceneViewExtension.h"
 
 #include "Engine/Engine.h"
-#include "Host/Trace.h"
 
 void FSceneViewExtensions::RegisterExtension(const TSharedRef<ISceneViewExtension>& Extension)
 {

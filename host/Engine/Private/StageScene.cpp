@@ -1,7 +1,7 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // A scene that looks like a picture: a sky with the sun's glow, a floor, balls like skin, stone and leaves, and a
 // saturated lamp. Light is linear; x is right, y up, z away from the eye, in metres.
-#include "Scenes.h"
+#include "StageScene.h"
 
 #include <algorithm>
 #include <cmath>

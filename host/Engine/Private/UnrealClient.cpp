@@ -2,7 +2,6 @@
 #include "UnrealClient.h"
 
 #include "CanvasTypes.h"
-#include "Host/Trace.h"
 
 void FViewport::Draw(bool)
 {

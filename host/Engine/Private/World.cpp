@@ -8,26 +8,6 @@ UWorld* UWorld::CreateWorld(const EWorldType::Type InWorldType)
 {
 	UWorld* World = new UWorld();
 	World->WorldType = InWorldType;
-	World->InitWorld();
+	FWorldDelegates::OnPreWorldInitialization.Broadcast(World, FWorldInitializationValues());
 	return World;
-}
-
-void UWorld::InitWorld(const InitializationValues IVS)
-{
-	FWorldDelegates::OnPreWorldInitialization.Broadcast(this, IVS);
-}
-
-void UWorld::ChangeFeatureLevel(ERHIFeatureLevel::Type InFeatureLevel)
-{
-	OnFeatureLevelChanged.Broadcast(InFeatureLevel);
-}
-
-FDelegateHandle UWorld::AddOnFeatureLevelChangedHandler(const FOnFeatureLevelChanged::FDelegate& InHandler)
-{
-	return OnFeatureLevelChanged.Add(InHandler);
-}
-
-void UWorld::RemoveOnFeatureLevelChangedHandler(FDelegateHandle InHandle)
-{
-	OnFeatureLevelChanged.Remove(InHandle);
 }

@@ -5,8 +5,6 @@
 #include "Framework/Application/SlateApplication.h"
 #include "Host/Assets.h"
 #include "Host/Plugins.h"
-#include "Host/Project.h"
-#include "Host/Trace.h"
 #include "LevelEditor.h"
 #include "Misc/App.h"
 #include "Misc/CoreDelegates.h"

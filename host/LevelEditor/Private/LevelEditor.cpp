@@ -1,7 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "LevelEditor.h"
 
-#include "Editor.h"
 #include "SLevelViewport.h"
 #include "ToolMenus.h"
 #include <map>

@@ -1,15 +1,23 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "SLevelViewport.h"
 
-#include "Editor.h"
 #include "Framework/Application/SlateApplication.h"
 #include "ToolMenus.h"
 
-// Here, where the pane's type is known.
+// The client of a pane: here, where the pane's type is known.
 FLevelEditorViewportClient::FLevelEditorViewportClient(const TSharedPtr<SLevelViewport>& InLevelViewport)
 	: FEditorViewportClient(InLevelViewport)
 {
 	GEditor->AddLevelViewportClients(this);
+}
+
+FLevelEditorViewportClient::~FLevelEditorViewportClient()
+{
+	if (GCurrentLevelEditingViewportClient == this)
+	{
+		GCurrentLevelEditingViewportClient = nullptr;
+	}
+	GEditor->RemoveLevelViewportClients(this);
 }
 
 void SLevelViewport::Construct(const FAssetEditorViewportConstructionArgs& InConstructionArgs)

@@ -1,11 +1,8 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "Framework/Application/SlateApplication.h"
 #include "Host/Assets.h"
 #include "Host/MenuRow.h"
 #include "PropertyCustomizationHelpers.h"
-#include "UObject/Class.h"
 #include "Widgets/SBoxPanel.h"
-#include "Widgets/SCompoundWidget.h"
 
 namespace
 {

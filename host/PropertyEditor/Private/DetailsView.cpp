@@ -20,7 +20,7 @@ public:
 		SVerticalBox::FArguments Rows;
 		for (const UStruct* Type = InObject ? InObject->GetClass() : nullptr; Type; Type = Type->SuperStruct)
 		{
-			for (const auto& Property : Type->GetOwnProperties())
+			for (const auto& Property : Type->Properties)
 			{
 				if (Property->HasAnyPropertyFlags(CPF_Edit))
 				{

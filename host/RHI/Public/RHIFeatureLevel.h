@@ -5,11 +5,6 @@ namespace ERHIFeatureLevel
 {
 enum Type : int
 {
-	ES2_REMOVED,
-	ES3_1,
-	SM4_REMOVED,
-	SM5,
-	SM6,
-	Num,
+	ES3_1 = 1,
 };
 } // namespace ERHIFeatureLevel

@@ -1,8 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Framework/Application/SlateApplication.h"
 
-#include "Host/Trace.h"
-
 namespace
 {
 /** Lives on at the end of a process that did not exit in order: its widgets could no longer die cleanly then. */

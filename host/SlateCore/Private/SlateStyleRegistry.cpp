@@ -1,8 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Styling/SlateStyleRegistry.h"
 
-#include "Host/Trace.h"
-
 namespace
 {
 TMap<FName, const ISlateStyle*>& Styles()

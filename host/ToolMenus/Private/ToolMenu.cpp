@@ -1,5 +1,4 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "ToolMenu.h"
 
 #include "ToolMenus.h"
 
@@ -41,23 +40,12 @@ void UToolMenu::Merge(const UToolMenu& Other)
 
 bool UToolMenu::RemoveOwnedBy(const FToolMenuOwner& Owner)
 {
-	bool bRemoved = false;
-	for (int32 Place = Sections.Num(); Place-- > 0;)
+	int32 Removed = 0;
+	for (FToolMenuSection& Section : Sections)
 	{
-		FToolMenuSection& Section = Sections[Place];
-		for (int32 Index = Section.Blocks.Num(); Index-- > 0;)
-		{
-			if (Section.Blocks[Index].Owner == Owner)
-			{
-				Section.Blocks.RemoveAt(Index);
-				bRemoved = true;
-			}
-		}
-		if (Section.Blocks.IsEmpty() && Section.Owner == Owner)
-		{
-			Sections.RemoveAt(Place);
-			bRemoved = true;
-		}
+		Removed += Section.Blocks.RemoveAll([&Owner](const FToolMenuEntry& Entry) { return Entry.Owner == Owner; });
 	}
-	return bRemoved;
+	Removed += Sections.RemoveAll(
+		[&Owner](const FToolMenuSection& Section) { return Section.Blocks.IsEmpty() && Section.Owner == Owner; });
+	return Removed > 0;
 }

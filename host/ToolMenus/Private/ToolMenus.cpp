@@ -2,7 +2,6 @@
 #include "ToolMenus.h"
 
 #include "Framework/Application/SlateApplication.h"
-#include "Host/Trace.h"
 #include "Modules/ModuleManager.h"
 #include "SGeneratedMenu.h"
 
@@ -86,13 +85,7 @@ TSharedRef<SWidget> UToolMenus::GenerateWidget(const FName Name, const FToolMenu
 		UE_LOG(LogToolMenus, Warning, TEXT("Failed to find menu: %s for %s"), *Name.ToString(), *Name.ToString());
 	}
 	const TSharedRef<SGeneratedMenu> Widget = SNew(SGeneratedMenu).Menu(&GenerateMenu(Name));
-	for (int32 Index = Widgets.Num(); Index-- > 0;)
-	{
-		if (!Widgets[Index].IsValid())
-		{
-			Widgets.RemoveAt(Index);
-		}
-	}
+	Widgets.RemoveAll([](const TWeakPtr<SGeneratedMenu>& Each) { return !Each.IsValid(); });
 	Widgets.Add(Widget);
 	return Widget;
 }

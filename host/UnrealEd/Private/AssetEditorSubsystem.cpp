@@ -2,7 +2,6 @@
 #include "Subsystems/AssetEditorSubsystem.h"
 
 #include "AssetToolsModule.h"
-#include "Host/Trace.h"
 #include "Modules/ModuleManager.h"
 
 namespace

@@ -1,9 +1,9 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "Editor.h"
 #include "IAssetViewport.h"
 #include "LevelEditorViewport.h"
 
 UEditorEngine* GEditor = nullptr;
+FLevelEditorViewportClient* GCurrentLevelEditingViewportClient = nullptr;
 
 void UEditorEngine::Tick()
 {

@@ -1,19 +1,28 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Editor.h"
+#include "Host/SceneRenderer.h"
 #include "SEditorViewport.h"
-#include "UnrealClient.h"
 
 /** A client of any editor viewport. Enters itself into the editor's list and leaves it when it dies. */
 class FEditorViewportClient : public FCommonViewportClient
 {
 public:
-	UNREALED_API explicit FEditorViewportClient(const TWeakPtr<SEditorViewport>& InEditorViewportWidget);
+	explicit FEditorViewportClient(const TWeakPtr<SEditorViewport>& InEditorViewportWidget)
+		: EditorViewportWidget(InEditorViewportWidget)
+	{
+		GEditor->AddViewportClients(this);
+	}
 
 	/** Fatal while a viewport is set: it would draw through a dead client. */
-	UNREALED_API ~FEditorViewportClient() override;
+	~FEditorViewportClient() override
+	{
+		checkf(Viewport == nullptr, TEXT("The viewport of a client must be gone before the client."));
+		GEditor->RemoveViewportClients(this);
+	}
 
-	UNREALED_API void Draw(FViewport* InViewport, FCanvas* Canvas) override;
+	void Draw(FViewport* InViewport, FCanvas* Canvas) override { HostScene::Draw(*InViewport, *Canvas); }
 
 	TSharedPtr<SEditorViewport> GetEditorViewportWidget() const { return EditorViewportWidget.Pin(); }
 

@@ -12,9 +12,6 @@ class UNREALED_API SEditorViewport : public SCompoundWidget
 public:
 	~SEditorViewport() override;
 
-	/** Null until the widget is constructed. */
-	const TSharedPtr<FEditorViewportClient>& GetViewportClient() const { return Client; }
-
 protected:
 	virtual TSharedRef<FEditorViewportClient> MakeEditorViewportClient() = 0;
 

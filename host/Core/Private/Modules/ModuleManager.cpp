@@ -1,7 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Modules/ModuleManager.h"
 
-#include "Host/Trace.h"
 #include "Misc/Paths.h"
 
 #include <windows.h>

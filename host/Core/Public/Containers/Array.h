@@ -1,5 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// The dynamic array. Bad indices are fatal; changing an array inside a ranged-for over it is reported once.
+// The dynamic array. Bad indices are fatal; so is changing an array inside a ranged-for over it, where the
+// engine only reports it.
 #pragma once
 
 #include "Misc/AssertionMacros.h"
@@ -37,7 +38,7 @@ struct TRangedForIterator
 	bool operator!=(const TRangedForIterator& End) const
 	{
 		const int32 CurrentNum = Array.Num();
-		ensureMsgf(CurrentNum == InitialNum, TEXT("Array has changed during ranged-for iteration!"));
+		checkf(CurrentNum == InitialNum, TEXT("Array has changed during ranged-for iteration!"));
 		return Element != End.Element;
 	}
 };
@@ -95,6 +96,13 @@ public:
 
 	/** Removes all elements equal to the given one. @return how many */
 	int32 Remove(ElementType Element) { return static_cast<int32>(std::erase(Storage, Element)); }
+
+	/** Removes all elements that the predicate accepts. @return how many */
+	template <typename Predicate>
+	int32 RemoveAll(Predicate Pred)
+	{
+		return static_cast<int32>(std::erase_if(Storage, Pred));
+	}
 
 	/** Anything that elements can be compared with. */
 	template <typename ComparisonType>

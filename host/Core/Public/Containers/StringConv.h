@@ -11,9 +11,6 @@ class FTCHARToUTF8
 {
 public:
 	CORE_API explicit FTCHARToUTF8(const TCHAR* Source);
-	FTCHARToUTF8(const FTCHARToUTF8&) = delete;
-	FTCHARToUTF8& operator=(const FTCHARToUTF8&) = delete;
-
 	const ANSICHAR* Get() const { return Buffer.c_str(); }
 
 private:
@@ -27,9 +24,6 @@ public:
 
 	/** The result is not terminated: a stray character stands behind it, so that code that relies on an end shows. */
 	CORE_API FUTF8ToTCHAR(const ANSICHAR* Source, int32 SourceLen);
-
-	FUTF8ToTCHAR(const FUTF8ToTCHAR&) = delete;
-	FUTF8ToTCHAR& operator=(const FUTF8ToTCHAR&) = delete;
 
 	const TCHAR* Get() const { return Buffer.c_str(); }
 

@@ -25,17 +25,12 @@ static_assert(sizeof(TCHAR) == 2, "Strings are UTF-16.");
 #define DLLEXPORT __declspec(dllexport)
 #define DLLIMPORT __declspec(dllimport)
 
-#ifdef _MSC_VER
-#define THIRD_PARTY_INCLUDES_START __pragma(warning(push, 0))
-#define THIRD_PARTY_INCLUDES_END __pragma(warning(pop))
-#else
 #define THIRD_PARTY_INCLUDES_START                                                                                     \
 	_Pragma("GCC diagnostic push") _Pragma("GCC diagnostic ignored \"-Wshadow\"")                                      \
 		_Pragma("GCC diagnostic ignored \"-Wconversion\"") _Pragma("GCC diagnostic ignored \"-Wsign-compare\"")        \
 			_Pragma("GCC diagnostic ignored \"-Wcast-function-type\"")                                                 \
 				_Pragma("GCC diagnostic ignored \"-Wunused-parameter\"")
 #define THIRD_PARTY_INCLUDES_END _Pragma("GCC diagnostic pop")
-#endif
 
 enum
 {

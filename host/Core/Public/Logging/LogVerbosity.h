@@ -19,4 +19,9 @@ enum Type : uint8
 } // namespace ELogVerbosity
 
 /** The word that stands in log lines, such as "Warning". */
-CORE_API const TCHAR* ToString(ELogVerbosity::Type Verbosity);
+inline const TCHAR* ToString(ELogVerbosity::Type Verbosity)
+{
+	static const TCHAR* const Words[] = {
+		TEXT("Error"), TEXT("Warning"), TEXT("Display"), TEXT("Log"), TEXT("Verbose"), TEXT("VeryVerbose")};
+	return Words[Verbosity - ELogVerbosity::Error];
+}

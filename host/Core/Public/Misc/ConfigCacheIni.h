@@ -23,26 +23,16 @@ public:
 	CORE_API void Flush(bool bRemoveFromCache, const FString& Filename);
 
 private:
-	struct FLine
+	/** What stands above the first section is one without a name. */
+	struct FSection
 	{
-		/** As it stands in the file. */
-		FString Text;
-
-		/** Empty above the first section. */
-		FString Section;
-
-		/** Empty for lines that are no "Key=Value". */
-		FString Key{};
-		FString Value{};
+		FString Name;
+		std::vector<FString> Lines;
 	};
 
-	/** A section ends with an empty line. */
-	using FFile = std::vector<FLine>;
+	std::vector<FSection>& Open(const FString& Filename);
 
-	FFile& Open(const FString& Filename);
-	static FFile Read(const FString& Filename);
-
-	TMap<FString, FFile> Files;
+	TMap<FString, std::vector<FSection>> Files;
 };
 
 /** The one cache; never null. */

@@ -33,7 +33,12 @@ public:
 
 	CORE_API static FString ConvertRelativePathToFull(const FString& Path);
 
-	/** Whether there is such a file, or folder; false also when it cannot be told. */
+	/** False also when it cannot be told. */
 	CORE_API static bool FileExists(const FString& Path);
-	CORE_API static bool DirectoryExists(const FString& Path);
 };
+
+namespace HostProject
+{
+/** Opens a project. Both kinds of slash may stand in the path; it need not exist. Before any other thread runs. */
+CORE_API void SetFolder(const FString& Folder);
+} // namespace HostProject

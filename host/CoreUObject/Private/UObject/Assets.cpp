@@ -1,11 +1,8 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Host/Assets.h"
 
-#include "Host/Trace.h"
 #include "Misc/ConfigCacheIni.h"
-#include "Misc/Paths.h"
 #include "ObjectConfig.h"
-#include "UObject/UObjectGlobals.h"
 
 #include <filesystem>
 #include <map>

@@ -1,5 +1,4 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "UObject/Class.h"
 
 #include "ObjectConfig.h"
 #include "UObject/GeneratedCppIncludes.h"
@@ -20,51 +19,21 @@ T* NewType(UClass* TypeClass, UObject* Outer, const TCHAR* Name)
 	const FObjectInitializer Initializer(Type, TypeClass, Outer, FName(Name), RF_Public | RF_Standalone);
 	return new (Type) T();
 }
-
-/** Fills in a new class. */
-UClass* Define(UClass* Class, size_t Size, const TCHAR* ConfigName, UClass::FConstructor Constructor, UClass* Super)
-{
-	Class->SuperStruct = Super;
-	Class->PropertiesSize = static_cast<int32>(Size);
-	Class->ClassConfigName = FName(ConfigName);
-	Class->ClassConstructor = Constructor;
-	return Class;
-}
-
-/** Classes that the object system itself is made of; they lie in no package. */
-template <class T>
-UClass* CoreClass(const TCHAR* Name, UClass* Super)
-{
-	return Define(NewType<UClass>(nullptr, nullptr, Name), sizeof(T), TEXT(""), &HostReflection::Construct<T>, Super);
-}
 } // namespace
 
-UStruct::UStruct() = default;
-UStruct::~UStruct() = default;
+/** Classes that the object system itself is made of; they lie in no package. */
+#define HOST_CORE_CLASS(Type, Name, Super)                                                                             \
+	UClass* Type::StaticClass()                                                                                        \
+	{                                                                                                                  \
+		static UClass* const Class = HostReflection::NewClass(                                                         \
+			nullptr, TEXT(Name), sizeof(Type), TEXT(""), &HostReflection::Construct<Type>, Super);                     \
+		return Class;                                                                                                  \
+	}
 
-UClass* UObject::StaticClass()
-{
-	static UClass* const Class = CoreClass<UObject>(TEXT("Object"), nullptr);
-	return Class;
-}
-
-UClass* UClass::StaticClass()
-{
-	static UClass* const Class = CoreClass<UClass>(TEXT("Class"), UObject::StaticClass());
-	return Class;
-}
-
-UClass* UScriptStruct::StaticClass()
-{
-	static UClass* const Class = CoreClass<UScriptStruct>(TEXT("ScriptStruct"), UObject::StaticClass());
-	return Class;
-}
-
-UClass* UPackage::StaticClass()
-{
-	static UClass* const Class = CoreClass<UPackage>(TEXT("Package"), UObject::StaticClass());
-	return Class;
-}
+HOST_CORE_CLASS(UObject, "Object", nullptr)
+HOST_CORE_CLASS(UClass, "Class", UObject::StaticClass())
+HOST_CORE_CLASS(UScriptStruct, "ScriptStruct", UObject::StaticClass())
+HOST_CORE_CLASS(UPackage, "Package", UObject::StaticClass())
 
 bool UStruct::IsChildOf(const UStruct* SomeBase) const
 {
@@ -100,8 +69,13 @@ UObject* UClass::GetDefaultObject()
 UClass* HostReflection::NewClass(const TCHAR* Package, const TCHAR* Name, size_t Size, const TCHAR* ConfigName,
 	UClass::FConstructor Constructor, UClass* Super)
 {
-	UClass* Class = NewType<UClass>(UClass::StaticClass(), CreatePackage(Package), Name);
-	return Define(Class, Size, ConfigName, Constructor, Super);
+	UClass* Class =
+		NewType<UClass>(Package ? UClass::StaticClass() : nullptr, Package ? CreatePackage(Package) : nullptr, Name);
+	Class->SuperStruct = Super;
+	Class->PropertiesSize = static_cast<int32>(Size);
+	Class->ClassConfigName = FName(ConfigName);
+	Class->ClassConstructor = Constructor;
+	return Class;
 }
 
 UScriptStruct* HostReflection::NewStruct(const TCHAR* Package, const TCHAR* Name, size_t Size, UScriptStruct* Super)

@@ -1,8 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "UObject/Object.h"
 
 #include "Host/Transactions.h"
-#include "UObject/Class.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
 

@@ -1,5 +1,4 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "UObject/GCObject.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
 #include "UObject/UnrealType.h"
@@ -111,7 +110,7 @@ void FReferenceCollector::AddReferencedObjects(const UStruct& Type, void* Value)
 {
 	for (const UStruct* Each = &Type; Each; Each = Each->SuperStruct)
 	{
-		for (const auto& Property : Each->GetOwnProperties())
+		for (const auto& Property : Each->Properties)
 		{
 			Property->AddReferencedObjects(Value, *this);
 		}

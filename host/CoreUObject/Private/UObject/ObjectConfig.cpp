@@ -2,7 +2,6 @@
 // The config properties of objects, in files.
 #include "ObjectConfig.h"
 
-#include "Host/Trace.h"
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/Paths.h"
 #include "UObject/UnrealType.h"
@@ -24,7 +23,7 @@ bool HasFlags(const FProperty& Property, uint64 Flags)
 
 void HostConfig::Read(UObject& Object, uint64 Flags, const TCHAR* Section, const FString& File)
 {
-	for (const auto& Property : Object.GetClass()->GetOwnProperties())
+	for (const auto& Property : Object.GetClass()->Properties)
 	{
 		TArray<FString> Lines;
 		if (HasFlags(*Property, Flags) && GConfig->GetArray(Section, *Property->GetName(), Lines, File) > 0)
@@ -36,7 +35,7 @@ void HostConfig::Read(UObject& Object, uint64 Flags, const TCHAR* Section, const
 
 void HostConfig::Write(UObject& Object, uint64 Flags, const TCHAR* Section, const FString& File)
 {
-	for (const auto& Property : Object.GetClass()->GetOwnProperties())
+	for (const auto& Property : Object.GetClass()->Properties)
 	{
 		if (HasFlags(*Property, Flags))
 		{

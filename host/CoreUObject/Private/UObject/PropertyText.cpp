@@ -176,7 +176,7 @@ UObject* HostText::ReadObject(const FString& Text, UClass* Class, UObject* Befor
 FString HostText::WriteStruct(const UScriptStruct& Struct, const void* Value)
 {
 	FString Text;
-	for (const auto& Member : Struct.GetOwnProperties())
+	for (const auto& Member : Struct.Properties)
 	{
 		Text += (Text.IsEmpty() ? TEXT("(") : TEXT(",")) + Member->GetName() + TEXT("=");
 		Text += Member->ToLines(Value).Last();

@@ -34,7 +34,7 @@ void HostTransactions::Keep(UObject& Object)
 	if (bIsOpen && Object.HasAnyFlags(RF_Transactional))
 	{
 		Kept.push_back({&Object, {}});
-		for (const auto& Property : Object.GetClass()->GetOwnProperties())
+		for (const auto& Property : Object.GetClass()->Properties)
 		{
 			Kept.back().Lines.push_back(Property->ToLines(&Object));
 		}
@@ -49,7 +49,7 @@ bool HostTransactions::Undo()
 		{
 			for (size_t Index = 0; Index < Each.Lines.size(); ++Index)
 			{
-				Object->GetClass()->GetOwnProperties()[Index]->ReadLines(Each.Lines[Index], Object);
+				Object->GetClass()->Properties[Index]->ReadLines(Each.Lines[Index], Object);
 			}
 			Object->PostEditUndo();
 		}

@@ -43,10 +43,10 @@ UObject* StaticConstructObject(UClass* Class, UObject* Outer, FName Name, EObjec
 	checkf(Class->ClassConstructor, TEXT("Class %s is abstract."), *Class->GetName());
 	const FName Used = Name.IsNone() ? UniqueName(Outer, *Class) : Name;
 	checkf(!HostObjects::FindByName(Outer, Used), TEXT("The name %s is in use."), *Used.ToString());
-	UObject* Object = static_cast<UObject*>(::operator new(static_cast<size_t>(Class->GetPropertiesSize())));
+	UObject* Object = static_cast<UObject*>(::operator new(static_cast<size_t>(Class->PropertiesSize)));
 	const FObjectInitializer Initializer(Object, Class, Outer, Used, Flags);
 	Class->ClassConstructor(Initializer);
-	for (const auto& Property : Class->GetOwnProperties())
+	for (const auto& Property : Class->Properties)
 	{
 		if (Property->HasAnyPropertyFlags(CPF_Config) && !Object->HasAnyFlags(RF_ClassDefaultObject))
 		{

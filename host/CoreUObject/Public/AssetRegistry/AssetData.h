@@ -2,18 +2,31 @@
 // What is known of an asset without loading it.
 #pragma once
 
-#include "UObject/Object.h"
+#include "Misc/Paths.h"
 #include "UObject/TopLevelAssetPath.h"
+#include "UObject/UObjectGlobals.h"
 
 struct FAssetData
 {
 	FAssetData() = default;
 
 	/** Of an object that is in memory; null gives the same as the default constructor. */
-	COREUOBJECT_API FAssetData(const UObject* InAsset);
+	FAssetData(const UObject* InAsset)
+	{
+		if (InAsset)
+		{
+			*this = FAssetData(InAsset->GetPackage()->GetName(), InAsset->GetClass()->GetPathName());
+		}
+	}
 
 	/** Of the one asset in the package, which has the package's name. */
-	COREUOBJECT_API FAssetData(const FString& Package, const FString& ClassPath);
+	FAssetData(const FString& Package, const FString& ClassPath)
+		: PackageName(Package)
+		, PackagePath(FPaths::GetPath(Package))
+		, AssetName(Package.Mid(FPaths::GetPath(Package).Len() + 1))
+		, AssetClassPath(ClassPath)
+	{
+	}
 
 	bool IsValid() const { return !PackageName.IsNone() && !AssetName.IsNone(); }
 
@@ -23,10 +36,16 @@ struct FAssetData
 	}
 
 	/** Null for a class that does not exist. */
-	COREUOBJECT_API UClass* GetClass() const;
+	UClass* GetClass() const
+	{
+		return static_cast<UClass*>(StaticFindObject(UClass::StaticClass(), *AssetClassPath.ToString()));
+	}
 
 	/** The object, loaded if it is not in memory yet; null when there is none. */
-	COREUOBJECT_API UObject* GetAsset() const;
+	UObject* GetAsset() const
+	{
+		return IsValid() ? StaticLoadObject(UObject::StaticClass(), *GetObjectPathString()) : nullptr;
+	}
 
 	/** Such as "/Game/Looks/Warm.Warm". */
 	FString GetObjectPathString() const { return PackageName.ToString() + TEXT(".") + AssetName.ToString(); }

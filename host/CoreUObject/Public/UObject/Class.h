@@ -13,24 +13,19 @@ class FProperty;
 class COREUOBJECT_API UStruct : public UObject
 {
 public:
-	UStruct();
-	~UStruct() override;
-
-	/** In bytes. */
-	int32 GetPropertiesSize() const { return PropertiesSize; }
-
 	bool IsChildOf(const UStruct* SomeBase) const;
-
-	/** The properties of this type without those of its base, in the order of declaration. */
-	const std::vector<std::unique_ptr<FProperty>>& GetOwnProperties() const { return Properties; }
 
 	/** Looks in the base too; null when there is none. */
 	FProperty* FindPropertyByName(FName Name) const;
 
 	/** Null for a type without reflected base. */
 	UStruct* SuperStruct = nullptr;
+
+	/** In bytes. */
 	int32 PropertiesSize = 0;
-	std::vector<std::unique_ptr<FProperty>> Properties;
+
+	/** Without those of the base, in the order of declaration. */
+	std::vector<std::shared_ptr<FProperty>> Properties;
 };
 
 /** A reflected struct: a plain value. */

@@ -2,7 +2,6 @@
 // What the header tool's sources are written with.
 #pragma once
 
-#include "UObject/ObjectPtr.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
 
@@ -31,12 +30,6 @@ COREUOBJECT_API UClass* NewClass(const TCHAR* Package, const TCHAR* Name, size_t
 	UClass::FConstructor Constructor, UClass* Super);
 
 COREUOBJECT_API UScriptStruct* NewStruct(const TCHAR* Package, const TCHAR* Name, size_t Size, UScriptStruct* Super);
-
-template <class T>
-void AddProperty(UStruct* Type, const FPropertyDeclaration& Declaration)
-{
-	Type->Properties.push_back(std::make_unique<FProperty>(Declaration, std::type_identity<T>()));
-}
 } // namespace HostReflection
 
 /** Announces the types of a library while it is loaded; they are made when the object system is ready for them. */

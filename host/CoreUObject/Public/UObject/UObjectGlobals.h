@@ -2,7 +2,6 @@
 // Making and finding objects.
 #pragma once
 
-#include "UObject/Class.h"
 #include "UObject/Package.h"
 
 /** Makes an object; config properties are as in the default object. NAME_None gives a name made of the class's. Fatal for an abstract class or a name in use. */

@@ -116,60 +116,56 @@ void Visit(TArray<T>& Values, FReferenceCollector& Collector)
 }
 } // namespace HostReferences
 
-/** What is said about a property where it is declared. */
-struct FPropertyDeclaration
-{
-	const TCHAR* Name;
-
-	/** In bytes from the begin of the owner. */
-	size_t Offset;
-
-	/** EPropertyFlags. */
-	uint64 Flags;
-};
-
 class FProperty
 {
 public:
-	/** @param T the type in C++ */
-	template <class T>
-	FProperty(const FPropertyDeclaration& InDeclaration, std::type_identity<T>)
-		: Declaration(InDeclaration)
-		, Writer([](const void* Value) { return HostText::WriteLines(*static_cast<const T*>(Value)); })
-		, Reader([](const TArray<FString>& Lines, void* Value) { HostText::ReadLines(Lines, *static_cast<T*>(Value)); })
-		, Visitor([](void* Value, FReferenceCollector& Collector)
-			  { HostReferences::Visit(*static_cast<T*>(Value), Collector); })
-	{
-	}
+	FProperty(const TCHAR* InName, size_t InOffset, uint64 InFlags) : Name(InName), Offset(InOffset), Flags(InFlags) {}
+	virtual ~FProperty() = default;
 
-	FName GetFName() const { return Declaration.Name; }
-
-	FString GetName() const { return Declaration.Name; }
-
-	bool HasAnyPropertyFlags(uint64 FlagsToCheck) const { return (Declaration.Flags & FlagsToCheck) != 0; }
+	FName GetFName() const { return Name; }
+	FString GetName() const { return Name; }
+	bool HasAnyPropertyFlags(uint64 FlagsToCheck) const { return (Flags & FlagsToCheck) != 0; }
 
 	/** The value as lines of a config file: one, or one an element for arrays. */
-	TArray<FString> ToLines(const void* Container) const
-	{
-		return Writer(static_cast<const char*>(Container) + Declaration.Offset);
-	}
+	virtual TArray<FString> ToLines(const void* Container) const = 0;
 
 	/** @param Lines not empty */
-	void ReadLines(const TArray<FString>& Lines, void* Container) const
-	{
-		Reader(Lines, static_cast<char*>(Container) + Declaration.Offset);
-	}
+	virtual void ReadLines(const TArray<FString>& Lines, void* Container) const = 0;
 
-	void AddReferencedObjects(void* Container, FReferenceCollector& Collector) const
+	virtual void AddReferencedObjects(void* Container, FReferenceCollector& Collector) const = 0;
+
+protected:
+	const TCHAR* const Name;
+
+	/** In bytes from the begin of the owner. */
+	const size_t Offset;
+
+	/** EPropertyFlags. */
+	const uint64 Flags;
+};
+
+/** A property that is a T in C++. */
+template <class T>
+class TProperty final : public FProperty
+{
+public:
+	using FProperty::FProperty;
+
+	TArray<FString> ToLines(const void* Container) const override
 	{
-		Visitor(static_cast<char*>(Container) + Declaration.Offset, Collector);
+		return HostText::WriteLines(ValueIn(const_cast<void*>(Container)));
+	}
+	void ReadLines(const TArray<FString>& Lines, void* Container) const override
+	{
+		HostText::ReadLines(Lines, ValueIn(Container));
+	}
+	void AddReferencedObjects(void* Container, FReferenceCollector& Collector) const override
+	{
+		HostReferences::Visit(ValueIn(Container), Collector);
 	}
 
 private:
-	FPropertyDeclaration Declaration;
-	TArray<FString> (*Writer)(const void* Value);
-	void (*Reader)(const TArray<FString>& Lines, void* Value);
-	void (*Visitor)(void* Value, FReferenceCollector& Collector);
+	T& ValueIn(void* Container) const { return *reinterpret_cast<T*>(static_cast<char*>(Container) + Offset); }
 };
 
 /** Tells which property a user changed. */

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "Containers/EnumAsByte.h"
-#include "CoreMinimal.h"
 #include "Engine/EngineTypes.h"
 #include "RHIFeatureLevel.h"
 #include "UObject/Object.h"
@@ -22,13 +21,14 @@ public:
 	/** Makes a world and initialises it. */
 	static UWorld* CreateWorld(const EWorldType::Type InWorldType);
 
-	void InitWorld(const InitializationValues IVS = InitializationValues());
-
 	/** Tells the handlers the new level. */
-	void ChangeFeatureLevel(ERHIFeatureLevel::Type InFeatureLevel);
+	void ChangeFeatureLevel(ERHIFeatureLevel::Type InFeatureLevel) { OnFeatureLevelChanged.Broadcast(InFeatureLevel); }
 
-	FDelegateHandle AddOnFeatureLevelChangedHandler(const FOnFeatureLevelChanged::FDelegate& InHandler);
-	void RemoveOnFeatureLevelChangedHandler(FDelegateHandle InHandle);
+	FDelegateHandle AddOnFeatureLevelChangedHandler(const FOnFeatureLevelChanged::FDelegate& InHandler)
+	{
+		return OnFeatureLevelChanged.Add(InHandler);
+	}
+	void RemoveOnFeatureLevelChangedHandler(FDelegateHandle InHandle) { OnFeatureLevelChanged.Remove(InHandle); }
 
 	TEnumAsByte<EWorldType::Type> WorldType = EWorldType::None;
 

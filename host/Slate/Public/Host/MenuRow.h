@@ -38,7 +38,14 @@ public:
 	SLATE_ARGUMENT(FName, SubMenuName)
 	SLATE_END_ARGS()
 
-	SLATE_API void Construct(const FArguments& InArgs);
+	void Construct(const FArguments& InArgs)
+	{
+		Row = InArgs;
+		if (Row._Kind == EMenuRow::Toggle)
+		{
+			ChildSlot[SAssignNew(CheckBox, SCheckBox).Action(Row._Action)];
+		}
+	}
 
 	EMenuRow GetKind() const { return Row._Kind; }
 
@@ -50,10 +57,26 @@ public:
 	bool IsChecked() const { return Row._Action.IsChecked(); }
 
 	/** Whether a click would do something. */
-	SLATE_API bool IsClickable() const;
+	bool IsClickable() const
+	{
+		return Row._Kind == EMenuRow::SubMenu || (Row._Action.ExecuteAction.IsBound() && Row._Action.CanExecute());
+	}
 
 	/** The row may be gone afterwards. */
-	SLATE_API void Click();
+	void Click()
+	{
+		const TSharedRef<SWidget> Kept = AsShared();
+		if (Row._Kind == EMenuRow::SubMenu)
+		{
+			FSlateApplication::Get().PushMenu(Row._SubMenuName, Kept, Row._MakeSubMenu);
+			return;
+		}
+		if (Row._bClosesMenus)
+		{
+			FSlateApplication::Get().DismissAllMenus();
+		}
+		Row._Action.Execute();
+	}
 
 	/** Leaves the menus open. */
 	void ClickCheckBox() { CheckBox->ToggleCheckedState(); }

@@ -7,15 +7,10 @@
 struct FSlateImageBrush : public FSlateBrush
 {
 	FSlateImageBrush(const FString& InImageName, const FVector2f& InImageSize,
-		const FLinearColor& InTint = FLinearColor(1, 1, 1, 1),
-		ESlateBrushTileType::Type InTiling = ESlateBrushTileType::NoTile,
-		ESlateBrushImageType::Type InImageType = ESlateBrushImageType::FullColor)
+		const FLinearColor& = FLinearColor(1, 1, 1, 1), ESlateBrushTileType::Type = ESlateBrushTileType::NoTile,
+		ESlateBrushImageType::Type = ESlateBrushImageType::FullColor)
 	{
 		ResourceName = FName(InImageName);
 		ImageSize = InImageSize;
-		TintColor = InTint;
-		DrawAs = ESlateBrushDrawType::Image;
-		Tiling = InTiling;
-		ImageType = InImageType;
 	}
 };

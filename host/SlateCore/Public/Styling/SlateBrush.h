@@ -4,15 +4,6 @@
 #include "CoreMinimal.h"
 #include "Math/Vector2D.h"
 
-namespace ESlateBrushDrawType
-{
-enum Type : uint8
-{
-	NoDrawType,
-	Image,
-};
-} // namespace ESlateBrushDrawType
-
 namespace ESlateBrushTileType
 {
 enum Type : uint8
@@ -40,10 +31,6 @@ struct FSlateBrush
 
 	/** In units of the user interface. */
 	FVector2f ImageSize;
-	FLinearColor TintColor{1.0f, 1.0f, 1.0f, 1.0f};
-	ESlateBrushDrawType::Type DrawAs = ESlateBrushDrawType::NoDrawType;
-	ESlateBrushTileType::Type Tiling = ESlateBrushTileType::NoTile;
-	ESlateBrushImageType::Type ImageType = ESlateBrushImageType::NoImage;
 
 protected:
 	FName ResourceName;

@@ -2,7 +2,7 @@
 // A named set of brushes.
 #pragma once
 
-#include "Containers/Map.h"
+#include "Misc/Paths.h"
 #include "Styling/SlateBrush.h"
 
 class ISlateStyle
@@ -16,7 +16,7 @@ public:
 		const FName PropertyName, const ANSICHAR* Specifier = nullptr, const FSlateBrush* Default = nullptr) const = 0;
 };
 
-class SLATECORE_API FSlateStyleSet : public ISlateStyle
+class FSlateStyleSet : public ISlateStyle
 {
 public:
 	explicit FSlateStyleSet(const FName& InStyleSetName) : StyleSetName(InStyleSetName) {}
@@ -26,13 +26,20 @@ public:
 	virtual void SetContentRoot(const FString& InContentRootDir) { ContentRootDir = InContentRootDir; }
 
 	/** The root, one slash, the relative path, the extension as it stands. */
-	virtual FString RootToContentDir(const ANSICHAR* RelativePath, const TCHAR* Extension);
+	virtual FString RootToContentDir(const ANSICHAR* RelativePath, const TCHAR* Extension)
+	{
+		return FPaths::Combine(ContentRootDir, UTF8_TO_TCHAR(RelativePath)) + Extension;
+	}
 
 	/** Takes the brush over. */
-	void Set(const FName PropertyName, FSlateBrush* InBrush);
+	void Set(const FName PropertyName, FSlateBrush* InBrush) { Brushes.Add(PropertyName, MakeShareable(InBrush)); }
 
-	const FSlateBrush* GetOptionalBrush(const FName PropertyName, const ANSICHAR* Specifier = nullptr,
-		const FSlateBrush* Default = nullptr) const override;
+	const FSlateBrush* GetOptionalBrush(
+		const FName PropertyName, const ANSICHAR* = nullptr, const FSlateBrush* Default = nullptr) const override
+	{
+		const TSharedPtr<FSlateBrush> Found = Brushes.FindRef(PropertyName);
+		return Found.IsValid() ? Found.Get() : Default;
+	}
 
 private:
 	FName StyleSetName;

@@ -2,7 +2,6 @@
 // Declaring what a widget is constructed from, and constructing it.
 #pragma once
 
-#include "Delegates/Delegate.h"
 #include "Misc/Attribute.h"
 
 /** Opens the arguments as far as the head of their constructor: an initialiser list and its body follow. */

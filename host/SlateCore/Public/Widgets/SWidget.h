@@ -14,10 +14,13 @@ class FChildren
 public:
 	explicit FChildren(const SWidget& InOwner) : Owner(InOwner) {}
 
-	SLATECORE_API int32 Num() const;
-	SLATECORE_API TSharedRef<SWidget> GetChildAt(int32 Index) const;
+	int32 Num() const { return All().Num(); }
+	TSharedRef<SWidget> GetChildAt(int32 Index) const { return All()[Index].ToSharedRef(); }
 
 private:
+	friend SWidget;
+	inline TArray<TSharedPtr<SWidget>> All() const;
+
 	const SWidget& Owner;
 };
 
@@ -31,7 +34,17 @@ public:
 	void RegisterActiveTimer(float, FWidgetActiveTimerDelegate TickFunction) { ActiveTimers.Add(TickFunction); }
 
 	/** A frame. */
-	SLATECORE_API void ExecuteActiveTimers();
+	void ExecuteActiveTimers()
+	{
+		// What is registered meanwhile waits for the next frame.
+		for (const FWidgetActiveTimerDelegate& Timer : std::exchange(ActiveTimers, {}))
+		{
+			if (Timer.IsBound() && Timer.Execute(0.0, 0.0f) == EActiveTimerReturnType::Continue)
+			{
+				ActiveTimers.Add(Timer);
+			}
+		}
+	}
 
 	/** What it was made as, such as "SCheckBox". */
 	FName GetType() const { return Type; }
@@ -42,7 +55,14 @@ public:
 	virtual TArray<const FSlotBase*> GetSlots() const { return {}; }
 
 	/** Calls the function for this widget and for all below it, each parent before its children. */
-	SLATECORE_API void ForEachWidget(const std::function<void(SWidget&)>& Function);
+	void ForEachWidget(const std::function<void(SWidget&)>& Function)
+	{
+		Function(*this);
+		for (const TSharedPtr<SWidget>& Child : Children.All())
+		{
+			Child->ForEachWidget(Function);
+		}
+	}
 
 private:
 	template <class WidgetType>
@@ -52,3 +72,16 @@ private:
 	FChildren Children{*this};
 	TArray<FWidgetActiveTimerDelegate> ActiveTimers;
 };
+
+inline TArray<TSharedPtr<SWidget>> FChildren::All() const
+{
+	TArray<TSharedPtr<SWidget>> Children;
+	for (const FSlotBase* Slot : Owner.GetSlots())
+	{
+		if (Slot->Widget.IsValid())
+		{
+			Children.Add(Slot->Widget);
+		}
+	}
+	return Children;
+}

@@ -5,7 +5,7 @@
 #include "Widgets/SCompoundWidget.h"
 
 /** A window; the application owns it from FSlateApplication::AddWindow until it closes. */
-class SLATECORE_API SWindow : public SCompoundWidget
+class SWindow : public SCompoundWidget
 {
 public:
 	SLATE_BEGIN_ARGS(SWindow) {}
@@ -14,11 +14,15 @@ public:
 	SLATE_DEFAULT_SLOT(FArguments, Content)
 	SLATE_END_ARGS()
 
-	void Construct(const FArguments& InArgs);
+	void Construct(const FArguments& InArgs)
+	{
+		Title = InArgs._Title;
+		ChildSlot[InArgs._Content.ToSharedRef()];
+	}
 
 	FText GetTitle() const { return Title.Get(); }
 
-	void BringToFront(bool bForce = false);
+	void BringToFront(bool = false) { HostTrace::Line(TEXT("bring window %s to front"), *GetTitle().ToString()); }
 
 private:
 	TAttribute<FText> Title;

@@ -2,9 +2,7 @@
 // What makes new assets of a class.
 #pragma once
 
-#include "CoreMinimal.h"
 #include "Templates/SubclassOf.h"
-#include "UObject/Object.h"
 #include "UObject/UObjectGlobals.h"
 
 class FFeedbackContext;

@@ -18,9 +18,6 @@ public:
 
 	void Construct(const FArguments& InArgs) { Slider = InArgs; }
 
-	/** Where the handle stands. */
-	float GetValue() const { return Slider._Value; }
-
 	/** As a user draws it. */
 	void Draw(float Value)
 	{

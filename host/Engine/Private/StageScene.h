@@ -10,13 +10,6 @@
 using FLight = std::array<double, 3>;
 
 /**
- * The chart, from top to bottom: the upper half sweeps the hues from left to right and loses saturation downwards; then
- * come eight patches (red, green, blue, cyan, magenta, yellow, a skin, a foliage); the last quarter is a ramp from black
- * to white. Alpha is 0, as scenes leave it.
- */
-FColor ChartColor(FIntPoint Pixel, FIntPoint Size);
-
-/**
  * The stage. The place is in shares of the frame's width and height, from the top left.
  * @param Aspect the frame's width through its height
  */
