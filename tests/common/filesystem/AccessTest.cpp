@@ -47,6 +47,7 @@ TEST(Access, ReadsDescriptorsThatGrowAndEndsWhenRefused)
 	const TemporaryFolder folder;
 	const std::string path = folder.file("file");
 	int calls = 0;
+	DWORD wanted = 0;
 	{
 		const ImportOverride growing("GetFileSecurityW", &GetFileSecurityW,
 			[&, real = &GetFileSecurityW](
@@ -56,7 +57,8 @@ TEST(Access, ReadsDescriptorsThatGrowAndEndsWhenRefused)
 				{
 					return real(name, parts, descriptor, size, needed);
 				}
-				*needed = size + 1;
+				EXPECT_GE(size, wanted);
+				*needed = wanted = size + 1;
 				SetLastError(ERROR_INSUFFICIENT_BUFFER);
 				return FALSE;
 			});
