@@ -110,7 +110,7 @@ inline LookColor::FGrading drawControls(FDraw& draw)
 inline LookColor::FLookTable drawTable(FDraw& draw, size_t shaperSize, size_t cubeSize, double least, double most)
 {
 	LookColor::FLookTable table;
-	const double grain = 0.1 / double(std::max(shaperSize, cubeSize));
+	const double grain = 0.1 / double(std::max({shaperSize, cubeSize, size_t(1)}));
 	const auto color = [&](FColor3 place)
 	{
 		LookColor::FTriple sample;
