@@ -110,11 +110,9 @@ public:
 				WantedColors() == 0 ? "LUT_1D_SIZE or LUT_3D_SIZE" : ColorsText(WantedColors()), "the end of the file");
 			return Error;
 		}
-		if (ShaperSize > 0)
-		{
-			Table.Shaper.assign(Colors.begin(), Colors.begin() + static_cast<std::ptrdiff_t>(ShaperSize));
-			Colors.erase(Colors.begin(), Colors.begin() + static_cast<std::ptrdiff_t>(ShaperSize));
-		}
+		const auto ShaperEnd = Colors.begin() + static_cast<std::ptrdiff_t>(ShaperSize);
+		Table.Shaper.assign(Colors.begin(), ShaperEnd);
+		Colors.erase(Colors.begin(), ShaperEnd);
 		Table.Cube = std::move(Colors);
 		return std::move(Table);
 	}
