@@ -1,8 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Report.h"
 
-#include "SLevelViewport.h"
-
 #include <fstream>
 #include <sstream>
 #include <windows.h>
@@ -139,19 +137,19 @@ void FReport::AddWindow(FEditorDriver& Driver)
 	Figures += Element("figure class=\"editor\"", Element("div class=\"panes n" + Count + "\"", Panes) + Windows);
 }
 
-void FReport::AddPicture(const FPicture& Picture, const std::string& Caption, bool bIsPane)
+void FReport::AddPicture(const FPicture& Picture, const std::string& Caption)
 {
 	if (Folder.empty())
 	{
 		return;
 	}
 	std::string Shown = Element("div " + ClassOf(Picture) + "\"", "");
-	if (bIsPane && First)
+	if (First)
 	{
 		Shown = Element("div " + ClassOf(*First) + "\"", "") + Element("div " + ClassOf(Picture) + " after\"", "") +
 				"<input type=\"range\" value=\"50\" aria-label=\"where the line stands\" "
 				"oninput=\"this.parentNode.style.setProperty('--at',this.value+'%')\">\n";
 	}
-	First = bIsPane && !First ? Picture : First;
+	First = First ? First : Picture;
 	Figures += Element("figure", Element("div class=\"compare\"", Shown) + Element("figcaption", Escaped(Caption)));
 }

@@ -21,8 +21,6 @@ public:
 
 	/** Adds the last part. */
 	~FReport() { AddPart(); }
-	FReport(const FReport&) = delete;
-	FReport& operator=(const FReport&) = delete;
 
 	/** Begins the page anew. @param Template its front: the head with the styles */
 	void Begin(const std::filesystem::path& Template, const std::string& Title) const;
@@ -36,8 +34,8 @@ public:
 	/** The panes in their places with what each shows, the open menus, the windows. */
 	void AddWindow(FEditorDriver& Driver);
 
-	/** @param bIsPane whether it is what a pane showed: the first one of those is put beside all others */
-	void AddPicture(const FPicture& Picture, const std::string& Caption, bool bIsPane);
+	/** What a pane showed; the first one of a session is put beside all others. */
+	void AddPicture(const FPicture& Picture, const std::string& Caption);
 
 private:
 	void AddPart();

@@ -79,7 +79,7 @@ public:
 		const FPicture Picture = bIsPane ? Driver.TakePicture() : Driver.Windows().Picture(Arguments[1]);
 		const bool bIsSaved = ::SavePicture(Picture, PictureFile(Arguments[0]).generic_wstring().c_str());
 		FDriverError::Unless(bIsSaved, TEXT("%s cannot be written"), *Arguments[0]);
-		Report.AddPicture(Picture, TCHAR_TO_UTF8(*Arguments[0]), bIsPane);
+		bIsPane ? Report.AddPicture(Picture, TCHAR_TO_UTF8(*Arguments[0])) : ShowWindow();
 	}
 
 	void ExpectPicture(bool bLike, const FString& Name)
@@ -98,11 +98,11 @@ public:
 	/** A whole row, whatever its depth. */
 	void ExpectMenu(const FString& Row)
 	{
-		const FString Menu = TEXT("\n") + Driver.Menus().Text();
-		const std::wstring_view Rows(*Menu);
+		std::wstring Rows = *(TEXT("\n") + Driver.Menus().Text());
 		const bool bIsThere = Rows.find(*(TEXT("\n") + Row + TEXT("\n"))) != Rows.npos ||
 							  Rows.find(*(TEXT("  ") + Row + TEXT("\n"))) != Rows.npos;
-		FDriverError::Unless(bIsThere, TEXT("no row of the open menus is \"%s\", only:%s"), *Row, *Menu);
+		std::replace(Rows.begin(), Rows.end(), L'\n', L'|');
+		FDriverError::Unless(bIsThere, TEXT("no row of the open menus is \"%s\", only: %s"), *Row, Rows.c_str());
 	}
 
 	/** Line ends do not count. */

@@ -1,12 +1,8 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// Assets, their types, collections and drawn viewports, with types of the tests' own.
-#include "AssetToolsModule.h"
-#include "AssetTypeActions_Base.h"
+// Assets on disk, collections, and the chart that viewports show.
 #include "EditorTest.h"
 #include "Host/Assets.h"
-#include "Modules/ModuleManager.h"
 #include "ProbeSettings.h"
-#include "Subsystems/AssetEditorSubsystem.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/WeakObjectPtr.h"
 
@@ -14,47 +10,7 @@
 
 using testing::ElementsAre;
 
-namespace
-{
-/** Writes down what it is asked to open. */
-class FListingActions : public FAssetTypeActions_Base
-{
-public:
-	FListingActions(UClass* InClass, FLines& InOpened) : Class(InClass), Opened(InOpened) {}
-
-	FText GetName() const override { return FText::FromString(TEXT("Thing")); }
-
-	UClass* GetSupportedClass() const override { return Class; }
-
-	FColor GetTypeColor() const override { return FColor::White; }
-
-	uint32 GetCategories() override { return EAssetTypeCategories::Misc; }
-
-	void OpenAssetEditor(const TArray<UObject*>& Objects, TSharedPtr<IToolkitHost>) override
-	{
-		std::string Line;
-		for (const UObject* Object : Objects)
-		{
-			Line += (Line.empty() ? "" : "+") + std::string(TCHAR_TO_UTF8(*Object->GetName()));
-		}
-		Opened.push_back(Line);
-	}
-
-private:
-	UClass* Class;
-	FLines& Opened;
-};
-} // namespace
-
-class Assets : public FEditorTest
-{
-protected:
-	static IAssetTools& Tools() { return FModuleManager::LoadModuleChecked<FAssetToolsModule>("AssetTools").Get(); }
-
-	static UObject* Load(const TCHAR* Path) { return StaticLoadObject(UObject::StaticClass(), Path); }
-
-	FLines Opened;
-};
+using Assets = FEditorTest;
 
 TEST_F(Assets, LieInTheContentFolder)
 {
@@ -70,39 +26,12 @@ TEST_F(Assets, LieInTheContentFolder)
 		Paths.push_back(TCHAR_TO_UTF8(*(Asset.PackagePath.ToString() + TEXT(" ") + Asset.GetObjectPathString())));
 	}
 	EXPECT_THAT(Paths, ElementsAre("/Game /Game/A.A", "/Game /Game/C.C", "/Game/Things/Deep /Game/Things/Deep/B.B"));
-	EXPECT_EQ(Load(TEXT("/Game/C.C")), nullptr);
-	UObject* A = Load(TEXT("/Game/A.A"));
+	EXPECT_EQ(StaticLoadObject(UObject::StaticClass(), TEXT("/Game/C.C")), nullptr);
+	UObject* A = StaticLoadObject(UObject::StaticClass(), TEXT("/Game/A.A"));
 	ASSERT_NE(A, nullptr);
 	EXPECT_EQ(FAssetData(A), HostAssets::GetAll()[0]);
 	EXPECT_EQ(FAssetData(A).GetClass(), A->GetClass());
 	EXPECT_FALSE(FAssetData(nullptr).IsValid());
-}
-
-TEST_F(Assets, AreOpenedTogetherOnlyWhenOfOneClass)
-{
-	for (const TCHAR* Path : {TEXT("/Game/A.A"), TEXT("/Game/B.B")})
-	{
-		HostAssets::Write(Options.ProjectFolder, TEXT("/Script/Probe.ProbeSettings"), Path);
-	}
-	Driver.Start(Options);
-	UObject* A = Load(TEXT("/Game/A.A"));
-	UObject* B = Load(TEXT("/Game/B.B"));
-	const TSharedRef<IAssetTypeActions> Any = MakeShared<FListingActions>(UObject::StaticClass(), Opened);
-	FLines Replaced;
-	const TSharedRef<IAssetTypeActions> First = MakeShared<FListingActions>(A->GetClass(), Replaced);
-	const TSharedRef<IAssetTypeActions> Second = MakeShared<FListingActions>(A->GetClass(), Opened);
-	Tools().RegisterAssetTypeActions(Any);
-	Tools().RegisterAssetTypeActions(First);
-	Tools().RegisterAssetTypeActions(Second);
-	EXPECT_EQ(Tools().GetAssetTypeActionsForClass(A->GetClass()).Pin(), Second);
-	EXPECT_EQ(Tools().GetAssetTypeActionsForClass(UPackage::StaticClass()).Pin(), Any);
-
-	UAssetEditorSubsystem::OpenEditorForAssets({nullptr, A, B, A});
-	UAssetEditorSubsystem::OpenEditorForAssets({A, A->GetPackage(), B});
-	EXPECT_THAT(Opened, ElementsAre("A+B", "A", "/Game/A", "B"));
-	EXPECT_THAT(Replaced, ElementsAre());
-	Tools().UnregisterAssetTypeActions(First);
-	EXPECT_EQ(Tools().GetAssetTypeActionsForClass(A->GetClass()).Pin(), Any);
 }
 
 TEST_F(Assets, ViewportsReadBackTheChartThatWasDrawn)

@@ -71,6 +71,7 @@ TEST_F(BadInput, StoriesNameFileLineAndColumn)
 		{"put file nowhere Saved/a\n", "bad.story:1:1: filesystem error: cannot copy"},
 		{"start\nopen pane A\nexpect picture like a\n", "a.png cannot be read"},
 		{"start\nopen pane A\nopen menu View\nclick Nothing\n", "bad.story:4:1: no entry \"Nothing\" can be clicked"},
+		{"start\nexpect menu Nothing\n", "bad.story:2:1: no row of the open menus is \"Nothing\""},
 		{"start\nexpect log nowhere\n", "bad.story:2:1: the log does not hold \"nowhere\""},
 	};
 	for (const auto& Row : Rows)

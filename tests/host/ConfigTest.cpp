@@ -2,8 +2,7 @@
 // Settings of a plug-in in a file: the text is the engine's, typed by hand.
 #include "EditorTest.h"
 #include "Host/Assets.h"
-#include "Modules/ModuleManager.h"
-#include "Probe.h"
+#include "ProbeSettings.h"
 #include "UObject/UObjectGlobals.h"
 
 #include <filesystem>
@@ -23,7 +22,7 @@ protected:
 		std::ofstream(File(), std::ios::binary) << Text;
 		HostAssets::Write(Options.ProjectFolder, TEXT("/Script/Probe.ProbeSettings"), TEXT("/Game/Things/A.A"));
 		Driver.Start(Options);
-		return FModuleManager::LoadModuleChecked<IProbeModule>("Probe").Settings();
+		return *GetMutableDefault<UProbeSettings>();
 	}
 
 	std::string Saved(UProbeSettings& Settings) const

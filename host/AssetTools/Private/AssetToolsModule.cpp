@@ -7,6 +7,11 @@
 
 IMPLEMENT_HOST_MODULE(FAssetToolsModule, AssetTools)
 
+IAssetTools& IAssetTools::Get()
+{
+	return FModuleManager::LoadModuleChecked<FAssetToolsModule>("AssetTools").Get();
+}
+
 void IAssetTools::RegisterAssetTypeActions(const TSharedRef<IAssetTypeActions>& NewActions)
 {
 	HostTrace::Line(TEXT("register asset type %s"), *NewActions->GetSupportedClass()->GetName());

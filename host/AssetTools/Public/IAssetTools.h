@@ -11,6 +11,9 @@ class ASSETTOOLS_API IAssetTools
 public:
 	virtual ~IAssetTools() = default;
 
+	/** Loads the module if need be. */
+	static IAssetTools& Get();
+
 	/** What was registered for the same class before is replaced. */
 	virtual void RegisterAssetTypeActions(const TSharedRef<IAssetTypeActions>& NewActions);
 

@@ -1,20 +1,11 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Host/ContentBrowser.h"
 
-#include "AssetToolsModule.h"
 #include "Factories/Factory.h"
-#include "Modules/ModuleManager.h"
+#include "IAssetTools.h"
 #include "Styling/SlateStyleRegistry.h"
 #include "Subsystems/AssetEditorSubsystem.h"
 #include "UObject/UObjectHash.h"
-
-namespace
-{
-IAssetTools& AssetTools()
-{
-	return FModuleManager::LoadModuleChecked<FAssetToolsModule>("AssetTools").Get();
-}
-} // namespace
 
 TArray<FHostNewAssetEntry> HostContentBrowser::GetNewAssetMenu()
 {
@@ -24,12 +15,10 @@ TArray<FHostNewAssetEntry> HostContentBrowser::GetNewAssetMenu()
 	for (UClass* Class : Classes)
 	{
 		UFactory* Factory = static_cast<UFactory*>(Class->GetDefaultObject());
-		if (!Factory || !Factory->ShouldShowInNewMenu())
-		{
-			continue;
-		}
-		if (const TSharedPtr<IAssetTypeActions> Actions =
-				AssetTools().GetAssetTypeActionsForClass(Factory->SupportedClass).Pin())
+		const bool bIsOffered = Factory && Factory->ShouldShowInNewMenu();
+		const TSharedPtr<IAssetTypeActions> Actions =
+			bIsOffered ? IAssetTools::Get().GetAssetTypeActionsForClass(Factory->SupportedClass).Pin() : nullptr;
+		if (Actions.IsValid())
 		{
 			Menu.Add({Actions->GetName(), Factory});
 		}
@@ -39,7 +28,8 @@ TArray<FHostNewAssetEntry> HostContentBrowser::GetNewAssetMenu()
 
 UObject* HostContentBrowser::CreateNewAsset(const FString& Name, const FString& Folder, UFactory& Factory)
 {
-	UObject* Asset = AssetTools().CreateAsset(Name, Folder, Factory.SupportedClass, &Factory, "ContentBrowserNewAsset");
+	UObject* Asset =
+		IAssetTools::Get().CreateAsset(Name, Folder, Factory.SupportedClass, &Factory, "ContentBrowserNewAsset");
 	if (Asset && Factory.bEditAfterNew)
 	{
 		UAssetEditorSubsystem::OpenEditorForAssets({Asset});

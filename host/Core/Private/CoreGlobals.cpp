@@ -10,10 +10,7 @@ DEFINE_LOG_CATEGORY(LogTemp);
 bool FApp::bCanEverRender = true;
 FString GEditorPerProjectIni;
 
-namespace
-{
-const std::thread::id GameThread = std::this_thread::get_id();
-}
+static const std::thread::id GameThread = std::this_thread::get_id();
 
 bool IsInGameThread()
 {

@@ -5,11 +5,8 @@
 
 #include <filesystem>
 
-namespace
-{
 /** Empty, or ends with "/". */
-FString ProjectFolder;
-} // namespace
+static FString ProjectFolder;
 
 void HostProject::SetFolder(const FString& Folder)
 {

@@ -6,15 +6,6 @@
 
 namespace
 {
-std::string ToUtf8(std::wstring_view Source)
-{
-	const auto Convert = [Length = static_cast<int32>(Source.size()), &Source](char* Target, int32 Size)
-	{ return WideCharToMultiByte(CP_UTF8, 0, Source.data(), Length, Target, Size, nullptr, nullptr); };
-	std::string Target(static_cast<size_t>(Convert(nullptr, 0)), '\0');
-	Convert(Target.data(), static_cast<int32>(Target.size()));
-	return Target;
-}
-
 std::wstring ToWide(std::string_view Source)
 {
 	const auto Convert = [Length = static_cast<int32>(Source.size()), &Source](wchar_t* Target, int32 Size)
@@ -25,7 +16,16 @@ std::wstring ToWide(std::string_view Source)
 }
 } // namespace
 
-FTCHARToUTF8::FTCHARToUTF8(const TCHAR* Source) : Buffer(ToUtf8(Source ? Source : TEXT(""))) {}
+FTCHARToUTF8::FTCHARToUTF8(const TCHAR* Source)
+{
+	const auto Convert = [View = std::wstring_view(Source ? Source : TEXT(""))](char* Target, size_t Size)
+	{
+		return WideCharToMultiByte(CP_UTF8, 0, View.data(), static_cast<int32>(View.size()), Target,
+			static_cast<int32>(Size), nullptr, nullptr);
+	};
+	Buffer.resize(static_cast<size_t>(Convert(nullptr, 0)));
+	Convert(Buffer.data(), Buffer.size());
+}
 
 FUTF8ToTCHAR::FUTF8ToTCHAR(const ANSICHAR* Source)
 	: Buffer(ToWide(Source ? Source : "")), ResultLength(static_cast<int32>(Buffer.size()))

@@ -5,15 +5,11 @@
 #include "Host/ContentBrowser.h"
 #include "LevelEditor.h"
 #include "RedirectMachineFolder.h"
-#include "SLevelViewport.h"
 #include "Subsystems/AssetEditorSubsystem.h"
 
-namespace
-{
-FLevelEditorModule& LevelEditor()
+static FLevelEditorModule& LevelEditor()
 {
 	return FModuleManager::GetModuleChecked<FLevelEditorModule>("LevelEditor");
-}
 } // namespace
 
 void FEditorDriver::Start(const FEngineLoopOptions& Options)
@@ -22,11 +18,6 @@ void FEditorDriver::Start(const FEngineLoopOptions& Options)
 		TEXT("the machine-wide folder cannot be redirected"));
 	Loop.Init(Options);
 	bIsRunning = true;
-}
-
-UWorld& FEditorDriver::MakeWorld(EWorldType::Type Type)
-{
-	return *UWorld::CreateWorld(Type);
 }
 
 void FEditorDriver::DestroyWorld(UWorld& World)
@@ -66,11 +57,6 @@ void FEditorDriver::ClosePane(const FString& Key)
 	LevelEditor().ClosePane(Closing);
 }
 
-void FEditorDriver::ActivatePane(const FString& Key)
-{
-	GCurrentLevelEditingViewportClient = &Pane(Key).GetLevelViewportClient();
-}
-
 void FEditorDriver::ResizePane(const FString& Key, FIntPoint Size)
 {
 	static_cast<FSceneViewport*>(Pane(Key).GetLevelViewportClient().Viewport)
@@ -82,11 +68,6 @@ TSharedRef<SLevelViewport> FEditorDriver::ActivePane()
 	const TSharedPtr<IAssetViewport> Active = GEditor->GetActivePane();
 	FDriverError::Unless(Active.IsValid(), TEXT("no pane is open"));
 	return StaticCastSharedPtr<SLevelViewport>(Active).ToSharedRef();
-}
-
-FPicture FEditorDriver::TakePicture()
-{
-	return TakePicture(*ActivePane());
 }
 
 FPicture FEditorDriver::TakePicture(IAssetViewport& Pane)

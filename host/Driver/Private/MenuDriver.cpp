@@ -1,8 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-
 #include "EditorDriver.h"
 #include "Host/MenuRow.h"
-#include "SLevelViewport.h"
 
 namespace
 {
@@ -21,44 +19,13 @@ TArray<TSharedRef<SMenuRow>> RowsOf(SWidget& Menu)
 	return Rows;
 }
 
-/** The first row of that kind and name that would do something when clicked. */
-TSharedRef<SMenuRow> FindRow(const FString& Name, const TCHAR* What, std::initializer_list<EMenuRow> Kinds)
-{
-	const TArray<FOpenMenu>& Menus = FSlateApplication::Get().GetOpenMenus();
-	FString Others;
-	for (int32 Index = Menus.Num(); Index-- > 0;)
-	{
-		for (const TSharedRef<SMenuRow>& Row : RowsOf(*Menus[Index].Content))
-		{
-			if (!TArray<EMenuRow>(Kinds).Contains(Row->GetKind()) || !Row->IsClickable())
-			{
-				continue;
-			}
-			if (Row->GetName() == FName(Name))
-			{
-				return Row;
-			}
-			Others += (Others.IsEmpty() ? TEXT("") : TEXT(", ")) + Row->GetName().ToString();
-		}
-	}
-	throw FDriverError(FString::Printf(TEXT("no %s \"%s\" can be clicked in the open menus, only: %s"), What, *Name,
-		Others.IsEmpty() ? TEXT("nothing") : *Others));
-}
-
 FString LineOf(const SMenuRow& Row)
 {
 	const FString Label = Row.GetLabel().ToString();
-	switch (Row.GetKind())
-	{
-	case EMenuRow::Heading:
-		return Label;
-	case EMenuRow::Toggle:
-		return (Row.IsChecked() ? TEXT("  [x] ") : TEXT("  [ ] ")) + Label;
-	case EMenuRow::SubMenu:
-		return TEXT("  ") + Label + TEXT(" >");
-	default:
-		return TEXT("  ") + Label;
-	}
+	const FString Box = Row.IsChecked() ? TEXT("[x] ") : TEXT("[ ] ");
+	const EMenuRow Kind = Row.GetKind();
+	return (Kind == EMenuRow::Heading ? FString() : TEXT("  ") + (Kind == EMenuRow::Toggle ? Box : FString())) + Label +
+		   (Kind == EMenuRow::SubMenu ? TEXT(" >") : TEXT(""));
 }
 
 /** The menu at that place of the open ones, and what was opened from it. */
@@ -79,6 +46,26 @@ FString TextOf(int32 Index, const FString& Indent)
 		}
 	}
 	return Text;
+}
+/** The first row of that kind and name that would do something when clicked. */
+TSharedRef<SMenuRow> FindRow(const FString& Name, const TCHAR* What, const TArray<EMenuRow>& Kinds)
+{
+	const TArray<FOpenMenu>& Menus = FSlateApplication::Get().GetOpenMenus();
+	FString Others;
+	for (int32 Index = Menus.Num(); Index-- > 0;)
+	{
+		for (const TSharedRef<SMenuRow>& Row : RowsOf(*Menus[Index].Content))
+		{
+			const bool bFits = Kinds.Contains(Row->GetKind()) && Row->IsClickable();
+			if (bFits && Row->GetName() == FName(Name))
+			{
+				return Row;
+			}
+			Others += bFits ? TEXT(" ") + Row->GetName().ToString() : FString();
+		}
+	}
+	throw FDriverError(
+		FString::Printf(TEXT("no %s \"%s\" can be clicked in the open menus, only:%s"), What, *Name, *Others));
 }
 } // namespace
 

@@ -2,14 +2,12 @@
 // A user's hands on the editor. Tests and stories act through this and nothing else.
 #pragma once
 
-#include "Editor.h"
 #include "LaunchEngineLoop.h"
 #include "MenuDriver.h"
+#include "SLevelViewport.h"
 #include "WindowDriver.h"
 
 #include <stdexcept>
-
-class SLevelViewport;
 
 /** A step that cannot be done as asked, such as closing a pane that is not open. The text is UTF-8. */
 class FDriverError : public std::runtime_error
@@ -44,7 +42,7 @@ public:
 	/** Between start and exit. */
 	bool IsRunning() const { return bIsRunning; }
 
-	UWorld& MakeWorld(EWorldType::Type Type);
+	UWorld& MakeWorld(EWorldType::Type Type) { return *UWorld::CreateWorld(Type); }
 
 	/** Destroys the world, as loading another map does. */
 	void DestroyWorld(UWorld& World);
@@ -58,7 +56,7 @@ public:
 	void SetLayout(const FString& Layout);
 
 	void ClosePane(const FString& Key);
-	void ActivatePane(const FString& Key);
+	void ActivatePane(const FString& Key) { GCurrentLevelEditingViewportClient = &Pane(Key).GetLevelViewportClient(); }
 
 	/** All panes, in the order of the layout. */
 	const TArray<TSharedPtr<SLevelViewport>>& Panes() const;
@@ -72,7 +70,7 @@ public:
 	void ResizePane(const FString& Key, FIntPoint Size);
 
 	/** The next frame of the active pane, as a user sees it. */
-	FPicture TakePicture();
+	FPicture TakePicture() { return TakePicture(*ActivePane()); }
 	FPicture TakePicture(IAssetViewport& Pane);
 
 	/** Chooses an entry of the content browser's menu for new assets. @param Path such as "/Game/Looks/Night" */

@@ -10,35 +10,8 @@
 #include "Misc/CoreDelegates.h"
 #include "ToolMenus.h"
 
-#include <stdexcept>
-
-namespace
-{
-/** Says what came out of a module before the process ends; nothing is unwound. */
-[[noreturn]] void OnUncaughtException() noexcept
-{
-	FString Reason = TEXT("an exception of an unknown type");
-	try
-	{
-		if (std::current_exception())
-		{
-			throw;
-		}
-	}
-	catch (const std::exception& Exception)
-	{
-		Reason = UTF8_TO_TCHAR(Exception.what());
-	}
-	catch (...)
-	{
-	}
-	FDebug::CheckFailed("no exception leaves a module", __FILE__, __LINE__, Reason);
-}
-} // namespace
-
 void FEngineLoop::Init(const FEngineLoopOptions& Options)
 {
-	std::set_terminate(&OnUncaughtException);
 	bIsCommandlet = Options.bIsCommandlet;
 	FApp::bCanEverRender = !bIsCommandlet;
 	HostProject::SetFolder(Options.ProjectFolder);

@@ -23,7 +23,10 @@ FLevelEditorViewportClient::~FLevelEditorViewportClient()
 void SLevelViewport::Construct(const FAssetEditorViewportConstructionArgs& InConstructionArgs)
 {
 	ConfigKey = InConstructionArgs.ConfigKey;
-	ConstructViewport();
+	// The client first; its viewport follows, so that the client's creation events see none.
+	Client = MakeShared<FLevelEditorViewportClient>(StaticCastSharedRef<SLevelViewport>(AsShared()));
+	SceneViewport = MakeShared<FSceneViewport>(Client.Get());
+	Client->Viewport = SceneViewport.Get();
 }
 
 void SLevelViewport::OpenViewMenu()
@@ -31,9 +34,4 @@ void SLevelViewport::OpenViewMenu()
 	FSlateApplication::Get().PushMenu(ViewMenuName, AsShared(),
 		FMakeMenuContent::CreateLambda(
 			[] { return UToolMenus::Get()->GenerateWidget(ViewMenuName, FToolMenuContext()); }));
-}
-
-TSharedRef<FEditorViewportClient> SLevelViewport::MakeEditorViewportClient()
-{
-	return MakeShared<FLevelEditorViewportClient>(StaticCastSharedRef<SLevelViewport>(AsShared()));
 }

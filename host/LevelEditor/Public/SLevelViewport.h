@@ -37,9 +37,6 @@ public:
 	}
 	void EndPlayInEditorSession() override { PlayViewport.Reset(); }
 
-protected:
-	TSharedRef<FEditorViewportClient> MakeEditorViewportClient() override;
-
 private:
 	FName ConfigKey;
 	TSharedPtr<FSceneViewport> PlayViewport;

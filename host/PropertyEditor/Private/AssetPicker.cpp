@@ -19,8 +19,7 @@ public:
 
 	void Construct(const FArguments& InArgs)
 	{
-		OnSet = InArgs._OnSet;
-		OnClose = InArgs._OnClose;
+		Args = InArgs;
 		SVerticalBox::FArguments Rows;
 		if (InArgs._bAllowEdit)
 		{
@@ -51,20 +50,12 @@ private:
 
 	void Set(FAssetData Asset)
 	{
-		OnSet.ExecuteIfBound(Asset);
-		OnClose.ExecuteIfBound();
+		Args._OnSet.ExecuteIfBound(Asset);
+		Args._OnClose.ExecuteIfBound();
 	}
 
-	FOnAssetSelected OnSet;
-	FSimpleDelegate OnClose;
+	FArguments Args;
 };
-
-bool IsOfAnyClass(const FAssetData& Asset, const TArray<const UClass*>& Classes)
-{
-	const UClass* Class = Asset.GetClass();
-	return Classes.IsEmpty() ||
-		   (Class && Classes.ContainsByPredicate([Class](const UClass* Allowed) { return Class->IsChildOf(Allowed); }));
-}
 } // namespace
 
 TSharedRef<SWidget> PropertyCustomizationHelpers::MakeAssetPickerWithMenu(const FAssetData& InitialObject,
@@ -75,8 +66,10 @@ TSharedRef<SWidget> PropertyCustomizationHelpers::MakeAssetPickerWithMenu(const 
 	TArray<FAssetData> Shown;
 	for (const FAssetData& Asset : HostAssets::GetAll())
 	{
+		const UClass* Class = Asset.GetClass();
+		const auto IsAllowed = [Class](const UClass* Allowed) { return Class && Class->IsChildOf(Allowed); };
 		const bool bIsFiltered = OnShouldFilterAsset.IsBound() && OnShouldFilterAsset.Execute(Asset);
-		if (IsOfAnyClass(Asset, AllowedClasses) && !bIsFiltered)
+		if ((AllowedClasses.IsEmpty() || AllowedClasses.ContainsByPredicate(IsAllowed)) && !bIsFiltered)
 		{
 			Shown.Add(Asset);
 		}

@@ -1,11 +1,8 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Framework/Application/SlateApplication.h"
 
-namespace
-{
 /** Lives on at the end of a process that did not exit in order: its widgets could no longer die cleanly then. */
-TSharedPtr<FSlateApplication>& CurrentApplication = *new TSharedPtr<FSlateApplication>();
-} // namespace
+static TSharedPtr<FSlateApplication>& CurrentApplication = *new TSharedPtr<FSlateApplication>();
 
 void FSlateApplication::Create()
 {
@@ -63,11 +60,6 @@ void FSlateApplication::PushMenu(FName Name, const TSharedRef<SWidget>& Parent, 
 	const TSharedRef<SWidget> Content = MakeContent.Execute();
 	HostTrace::Line(TEXT("open menu %s"), *Name.ToString());
 	OpenMenus.Add({Name, Parent, Content});
-}
-
-void FSlateApplication::DismissAllMenus()
-{
-	DismissDownTo(0);
 }
 
 void FSlateApplication::DismissMenuByWidget(const TSharedRef<SWidget>& InWidgetInMenu)

@@ -1,37 +1,30 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Styling/SlateStyleRegistry.h"
 
-namespace
-{
-TMap<FName, const ISlateStyle*>& Styles()
-{
-	static TMap<FName, const ISlateStyle*> Sets;
-	return Sets;
-}
-} // namespace
+static TMap<FName, const ISlateStyle*> Styles;
 
 void FSlateStyleRegistry::RegisterSlateStyle(const ISlateStyle& InSlateStyle)
 {
 	const FName Name = InSlateStyle.GetStyleSetName();
-	checkf(!Styles().Contains(Name), TEXT("The style set %s is registered already."), *Name.ToString());
+	checkf(!Styles.Contains(Name), TEXT("The style set %s is registered already."), *Name.ToString());
 	HostTrace::Line(TEXT("register style %s"), *Name.ToString());
-	Styles().Add(Name, &InSlateStyle);
+	Styles.Add(Name, &InSlateStyle);
 }
 
 void FSlateStyleRegistry::UnRegisterSlateStyle(const ISlateStyle& InSlateStyle)
 {
 	HostTrace::Line(TEXT("unregister style %s"), *InSlateStyle.GetStyleSetName().ToString());
-	Styles().Remove(InSlateStyle.GetStyleSetName());
+	Styles.Remove(InSlateStyle.GetStyleSetName());
 }
 
 const ISlateStyle* FSlateStyleRegistry::FindSlateStyle(const FName& InSlateStyleName)
 {
-	return Styles().FindRef(InSlateStyleName);
+	return Styles.FindRef(InSlateStyleName);
 }
 
 bool FSlateStyleRegistry::IterateAllStyles(const std::function<bool(const ISlateStyle&)>& Visit)
 {
-	for (const auto& [Name, Style] : Styles())
+	for (const auto& [Name, Style] : Styles)
 	{
 		if (!Visit(*Style))
 		{

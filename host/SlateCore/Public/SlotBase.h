@@ -14,9 +14,6 @@ struct FSlotBase
 	TSharedPtr<SWidget> Widget;
 
 	FMargin SlotPadding;
-
-	/** Takes as much room as its widget needs; otherwise an equal share of what is left. */
-	bool bIsAutoSized = false;
 };
 
 /** The setters, which can be chained. */

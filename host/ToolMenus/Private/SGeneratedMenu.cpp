@@ -8,12 +8,8 @@ namespace
 {
 EMenuRow KindOf(const FToolMenuEntry& Entry)
 {
-	if (Entry.IsSubMenu())
-	{
-		return EMenuRow::SubMenu;
-	}
-	return Entry.UserInterfaceActionType == EUserInterfaceActionType::ToggleButton ? EMenuRow::Toggle
-																				   : EMenuRow::Button;
+	const bool bIsToggle = Entry.UserInterfaceActionType == EUserInterfaceActionType::ToggleButton;
+	return Entry.IsSubMenu() ? EMenuRow::SubMenu : bIsToggle ? EMenuRow::Toggle : EMenuRow::Button;
 }
 
 TSharedRef<SWidget> MakeHeading(const TAttribute<FText>& Label)

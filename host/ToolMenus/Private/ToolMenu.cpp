@@ -1,6 +1,5 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-
-#include "ToolMenus.h"
+#include "ToolMenu.h"
 
 FToolMenuSection& UToolMenu::AddSection(
 	const FName SectionName, const TAttribute<FText>& InLabel, const FToolMenuInsert)
@@ -10,7 +9,7 @@ FToolMenuSection& UToolMenu::AddSection(
 	{
 		Section = &Sections.Emplace_GetRef();
 		Section->Name = SectionName;
-		Section->Owner = UToolMenus::Get()->CurrentOwner();
+		Section->Owner = FToolMenuOwner::Current();
 	}
 	if (InLabel.IsSet())
 	{

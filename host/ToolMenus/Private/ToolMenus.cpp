@@ -56,11 +56,6 @@ UToolMenu* UToolMenus::ExtendMenu(const FName Name)
 	return &FindOrAdd(Name);
 }
 
-UToolMenu* UToolMenus::FindMenu(const FName Name)
-{
-	return Menus.FindRef(Name);
-}
-
 bool UToolMenus::IsMenuRegistered(const FName Name) const
 {
 	const UToolMenu* Menu = Menus.FindRef(Name);
@@ -137,10 +132,10 @@ void UToolMenus::Tick()
 	}
 }
 
-void UToolMenus::PopOwner(const FToolMenuOwner& Owner)
+TArray<FToolMenuOwner>& FToolMenuOwner::Stack()
 {
-	check(CurrentOwner() == Owner);
-	OwnerStack.RemoveAt(OwnerStack.Num() - 1);
+	static TArray<FToolMenuOwner> Owners;
+	return Owners;
 }
 
 void UToolMenus::UnregisterOwnerInternal(FToolMenuOwner Owner)

@@ -27,26 +27,47 @@ struct FToolMenuEntryWidgetData
 };
 
 /** An entry of a menu. Its owner is the one at the time of its making. */
-struct TOOLMENUS_API FToolMenuEntry
+struct FToolMenuEntry
 {
 	static FToolMenuEntry InitMenuEntry(const FName InName, const TAttribute<FText>& InLabel,
-		const TAttribute<FText>& InToolTip, const TAttribute<FSlateIcon>& InIcon, const FToolUIActionChoice& InAction,
-		const EUserInterfaceActionType InUserInterfaceActionType = EUserInterfaceActionType::Button);
+		const TAttribute<FText>& InToolTip, const TAttribute<FSlateIcon>&, const FToolUIActionChoice& InAction,
+		const EUserInterfaceActionType InUserInterfaceActionType = EUserInterfaceActionType::Button)
+	{
+		FToolMenuEntry Entry;
+		Entry.Name = InName;
+		Entry.Label = InLabel;
+		Entry.ToolTip = InToolTip;
+		Entry.Action = InAction;
+		Entry.UserInterfaceActionType = InUserInterfaceActionType;
+		return Entry;
+	}
 
 	static FToolMenuEntry InitSubMenu(const FName InName, const TAttribute<FText>& InLabel,
 		const TAttribute<FText>& InToolTip, const FNewToolMenuChoice& InMakeMenu, const FToolUIActionChoice& InAction,
 		const EUserInterfaceActionType InUserInterfaceActionType, bool bInOpenSubMenuOnClick = false,
 		const TAttribute<FSlateIcon>& InIcon = TAttribute<FSlateIcon>(),
-		const bool bShouldCloseWindowAfterMenuSelection = true);
+		const bool bShouldCloseWindowAfterMenuSelection = true)
+	{
+		FToolMenuEntry Entry = InitMenuEntry(InName, InLabel, InToolTip, InIcon, InAction, InUserInterfaceActionType);
+		Entry.SubMenuData = {true, bInOpenSubMenuOnClick, InMakeMenu};
+		Entry.bShouldCloseWindowAfterMenuSelection = bShouldCloseWindowAfterMenuSelection;
+		return Entry;
+	}
 
 	/** Keeps the widget alive. */
 	static FToolMenuEntry InitWidget(const FName InName, const TSharedRef<SWidget>& InWidget, const FText& Label,
-		bool bNoIndent = false, bool bSearchable = true, bool bNoPadding = false, const FText& InToolTipText = FText());
+		bool bNoIndent = false, bool bSearchable = true, bool bNoPadding = false, const FText& InToolTipText = FText())
+	{
+		FToolMenuEntry Entry = InitMenuEntry(InName, Label, InToolTipText, FSlateIcon(), FToolUIActionChoice());
+		Entry.Widget = InWidget;
+		Entry.WidgetData = {bNoIndent, bSearchable, bNoPadding};
+		return Entry;
+	}
 
 	bool IsSubMenu() const { return SubMenuData.bIsSubMenu; }
 
 	FName Name;
-	FToolMenuOwner Owner;
+	FToolMenuOwner Owner = FToolMenuOwner::Current();
 
 	EUserInterfaceActionType UserInterfaceActionType = EUserInterfaceActionType::Button;
 

@@ -1,17 +1,14 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Subsystems/AssetEditorSubsystem.h"
 
-#include "AssetToolsModule.h"
-#include "Modules/ModuleManager.h"
+#include "IAssetTools.h"
 
 namespace
 {
 void OpenTogether(const TArray<UObject*>& Assets)
 {
-	const TSharedPtr<IAssetTypeActions> Actions = FModuleManager::LoadModuleChecked<FAssetToolsModule>("AssetTools")
-													  .Get()
-													  .GetAssetTypeActionsForClass(Assets[0]->GetClass())
-													  .Pin();
+	const TSharedPtr<IAssetTypeActions> Actions =
+		IAssetTools::Get().GetAssetTypeActionsForClass(Assets[0]->GetClass()).Pin();
 	if (!Actions.IsValid())
 	{
 		HostTrace::Line(TEXT("open the property editor of %s"), *Assets[0]->GetPathName());

@@ -13,16 +13,8 @@ FEditorDelegates::FOnPIEEvent FEditorDelegates::EndPIE{TEXT("FEditorDelegates::E
 FEditorDelegates::FOnPIEEvent FEditorDelegates::ShutdownPIE{TEXT("FEditorDelegates::ShutdownPIE")};
 FSimpleMulticastDelegate FEditorDelegates::CancelPIE{TEXT("FEditorDelegates::CancelPIE")};
 
-namespace
-{
 /** Sessions that only simulate are not offered. */
-constexpr bool bIsSimulating = false;
-} // namespace
-
-void UEditorEngine::RequestPlaySession(const FRequestPlaySessionParams& InParams)
-{
-	PlaySessionRequest = MakeUnique<FRequestPlaySessionParams>(InParams);
-}
+static constexpr bool bIsSimulating = false;
 
 void UEditorEngine::TickPlaySession()
 {

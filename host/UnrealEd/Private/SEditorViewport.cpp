@@ -12,10 +12,3 @@ SEditorViewport::~SEditorViewport()
 		Client.Reset();
 	}
 }
-
-void SEditorViewport::ConstructViewport()
-{
-	Client = MakeEditorViewportClient();
-	SceneViewport = MakeShared<FSceneViewport>(Client.Get());
-	Client->Viewport = SceneViewport.Get();
-}

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "Editor.h"
-#include "Host/SceneRenderer.h"
 #include "SEditorViewport.h"
 
 /** A client of any editor viewport. Enters itself into the editor's list and leaves it when it dies. */

@@ -13,11 +13,6 @@ public:
 	~SEditorViewport() override;
 
 protected:
-	virtual TSharedRef<FEditorViewportClient> MakeEditorViewportClient() = 0;
-
-	/** Makes the client first; its viewport follows, so that the client's creation events see none. */
-	void ConstructViewport();
-
 	TSharedPtr<FEditorViewportClient> Client;
 	TSharedPtr<FSceneViewport> SceneViewport;
 };

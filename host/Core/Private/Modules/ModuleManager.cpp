@@ -14,17 +14,6 @@ FModuleManager& FModuleManager::Get()
 	return *Manager;
 }
 
-void FModuleManager::SetModuleFilename(const FName InModuleName, const FString& Filename)
-{
-	Modules.FindOrAdd(InModuleName).Filename = Filename;
-}
-
-bool FModuleManager::RegisterStaticallyLinkedModule(const FName InModuleName, FInitializer InInitializer)
-{
-	Modules.FindOrAdd(InModuleName).Initializer = InInitializer;
-	return true;
-}
-
 IModuleInterface* FModuleManager::GetModule(const FName InModuleName) const
 {
 	const FModuleInfo* Info = Modules.Find(InModuleName);

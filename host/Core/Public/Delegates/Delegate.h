@@ -15,13 +15,8 @@
 #define DECLARE_MULTICAST_DELEGATE_OneParam(Name, P1) using Name = TMulticastDelegate<void(P1)>
 #define DECLARE_MULTICAST_DELEGATE_TwoParams(Name, P1, P2) using Name = TMulticastDelegate<void(P1, P2)>
 
-/** A class of its own, so that it can be declared ahead and told apart. Anyone may broadcast. */
-#define DECLARE_EVENT(OwningType, Name)                                                                                \
-	class Name : public TMulticastDelegate<void()>                                                                     \
-	{                                                                                                                  \
-	public:                                                                                                            \
-		using TMulticastDelegate::TMulticastDelegate;                                                                  \
-	}
+/** Anyone may broadcast. */
+#define DECLARE_EVENT(OwningType, Name) using Name = TMulticastDelegate<void()>
 
 DECLARE_DELEGATE(FSimpleDelegate);
 DECLARE_MULTICAST_DELEGATE(FSimpleMulticastDelegate);

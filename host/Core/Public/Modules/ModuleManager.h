@@ -40,10 +40,17 @@ public:
 	CORE_API void UnloadModulesAtShutdown() noexcept;
 
 	/** Names the library file of a module; the plug-in manager calls this for all modules that it finds. */
-	CORE_API void SetModuleFilename(const FName InModuleName, const FString& Filename);
+	void SetModuleFilename(const FName InModuleName, const FString& Filename)
+	{
+		Modules.FindOrAdd(InModuleName).Filename = Filename;
+	}
 
 	/** Adds a module that is linked into the editor itself. @return true */
-	CORE_API bool RegisterStaticallyLinkedModule(const FName InModuleName, FInitializer InInitializer);
+	bool RegisterStaticallyLinkedModule(const FName InModuleName, FInitializer InInitializer)
+	{
+		Modules.FindOrAdd(InModuleName).Initializer = InInitializer;
+		return true;
+	}
 
 	/** Sent after a library was loaded and before its module starts: its types are made now. */
 	FSimpleMulticastDelegate& OnProcessLoadedObjectsCallback() { return ProcessLoadedObjectsCallback; }

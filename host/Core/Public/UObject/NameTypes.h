@@ -5,7 +5,10 @@
 #include "Containers/UnrealString.h"
 #include "Templates/TypeHash.h"
 
-/** Keeps the case of its text, but compares without it (ASCII letters). Any thread; fatal from 1024 characters on. */
+/**
+ * Keeps the case of its text, but compares without it (ASCII letters). An end such as "_12" is kept as a number: names that
+ * differ in it only share their text. Any thread; fatal from 1024 characters on.
+ */
 class FName
 {
 public:
@@ -18,19 +21,28 @@ public:
 	CORE_API explicit FName(FStringView Name);
 	explicit FName(const FString& Name) : FName(FStringView(Name)) {}
 
-	bool IsNone() const { return Folded == nullptr; }
+	bool IsNone() const { return Folded == nullptr && Number == 0; }
 
 	/** NAME_None gives "None". */
-	FString ToString() const { return Spelling ? *Spelling : FString(TEXT("None")); }
+	CORE_API FString ToString() const;
 
-	friend bool operator==(const FName& A, const FName& B) { return A.Folded == B.Folded; }
+	friend bool operator==(const FName& A, const FName& B) { return A.Folded == B.Folded && A.Number == B.Number; }
 
-	friend uint32 GetTypeHash(const FName& Name) { return GetTypeHash(Name.Folded); }
+	friend uint32 GetTypeHash(const FName& Name) { return GetTypeHash(Name.Folded) + static_cast<uint32>(Name.Number); }
 
 private:
 	/** The text, and the text without case; one address each for the process. */
 	const FString* Spelling = nullptr;
 	const FString* Folded = nullptr;
+
+	/** One more than the number at the end; 0 without one. */
+	int32 Number = 0;
 };
 
 inline constexpr FName NAME_None;
+
+namespace HostNames
+{
+/** How many texts are kept. They never go. */
+CORE_API size_t Num();
+} // namespace HostNames

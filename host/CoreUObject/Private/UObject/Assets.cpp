@@ -36,12 +36,11 @@ void Register(const FAssetData& Asset)
 void RegisterFile(const std::filesystem::path& File, const std::filesystem::path& ContentFolder)
 {
 	TArray<FString> Class;
-	if (GConfig->GetArray(Section, ClassKey, Class, File.generic_wstring().c_str()) != 1)
-	{
-		return;
-	}
 	const std::filesystem::path Package = File.lexically_relative(ContentFolder).replace_extension();
-	Register(FAssetData(ContentRoot + Package.generic_wstring().c_str(), Class[0]));
+	if (GConfig->GetArray(Section, ClassKey, Class, File.generic_wstring().c_str()) == 1)
+	{
+		Register(FAssetData(ContentRoot + Package.generic_wstring().c_str(), Class[0]));
+	}
 }
 
 UObject* Load(const FAssetData& Asset)

@@ -1,15 +1,10 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-
 #include "ObjectConfig.h"
 #include "UObject/GeneratedCppIncludes.h"
 
 namespace
 {
-std::vector<FRegisterCompiledInInfo::FMake>& PendingTypes()
-{
-	static std::vector<FRegisterCompiledInInfo::FMake> Makers;
-	return Makers;
-}
+std::vector<FRegisterCompiledInInfo::FMake> PendingTypes;
 
 /** A type object of the given class. */
 template <class T>
@@ -34,11 +29,6 @@ HOST_CORE_CLASS(UObject, "Object", nullptr)
 HOST_CORE_CLASS(UClass, "Class", UObject::StaticClass())
 HOST_CORE_CLASS(UScriptStruct, "ScriptStruct", UObject::StaticClass())
 HOST_CORE_CLASS(UPackage, "Package", UObject::StaticClass())
-
-bool UStruct::IsChildOf(const UStruct* SomeBase) const
-{
-	return this == SomeBase || (SuperStruct && SuperStruct->IsChildOf(SomeBase));
-}
 
 FProperty* UStruct::FindPropertyByName(FName Name) const
 {
@@ -88,7 +78,7 @@ UScriptStruct* HostReflection::NewStruct(const TCHAR* Package, const TCHAR* Name
 
 FRegisterCompiledInInfo::FRegisterCompiledInInfo(std::initializer_list<FMake> Makers)
 {
-	PendingTypes().insert(PendingTypes().end(), Makers);
+	PendingTypes.insert(PendingTypes.end(), Makers);
 }
 
 void ProcessNewlyLoadedUObjects()
@@ -98,7 +88,7 @@ void ProcessNewlyLoadedUObjects()
 		return;
 	}
 	std::vector<UStruct*> Types;
-	for (const FRegisterCompiledInInfo::FMake Make : std::exchange(PendingTypes(), {}))
+	for (const FRegisterCompiledInInfo::FMake Make : std::exchange(PendingTypes, {}))
 	{
 		Types.push_back(Make());
 	}

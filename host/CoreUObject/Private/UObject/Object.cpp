@@ -1,5 +1,4 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-
 #include "Host/Transactions.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
@@ -23,11 +22,6 @@ UObject::UObject(const FObjectInitializer&) : UObject() {}
 UObject::~UObject()
 {
 	HostObjects::Remove(this);
-}
-
-FString UObject::GetPathName() const
-{
-	return OuterPrivate ? OuterPrivate->GetPathName() + TEXT(".") + GetName() : GetName();
 }
 
 UPackage* UObject::GetPackage() const

@@ -73,21 +73,11 @@ FString Take(std::wstring_view& Rest, TCHAR Mark)
 
 } // namespace
 
-FString HostText::Write(bool Value)
-{
-	return Value ? TEXT("True") : TEXT("False");
-}
-
 void HostText::Read(const FString& Text, bool& OutValue)
 {
 	const bool bIsTrue = Text == TEXT("True") || Text == TEXT("Yes") || Text == TEXT("1");
 	const bool bIsFalse = Text == TEXT("False") || Text == TEXT("No") || Text == TEXT("0");
 	OutValue = bIsTrue || (OutValue && !bIsFalse);
-}
-
-FString HostText::Write(float Value)
-{
-	return FString::Printf(TEXT("%f"), static_cast<double>(Value));
 }
 
 void HostText::Read(const FString& Text, float& OutValue)
@@ -138,11 +128,6 @@ void HostText::ReadLines(const TArray<FString>& Lines, TArray<uint8>& OutValues)
 		const TCHAR Digits[]{(*Lines.Last())[At], (*Lines.Last())[At + 1], 0};
 		OutValues.Add(static_cast<uint8>(std::wcstoul(Digits, nullptr, 16)));
 	}
-}
-
-FString HostText::Write(const FVector4& Value)
-{
-	return FString::Printf(TEXT("(X=%f,Y=%f,Z=%f,W=%f)"), Value.X, Value.Y, Value.Z, Value.W);
 }
 
 void HostText::Read(const FString& Text, FVector4& OutValue)

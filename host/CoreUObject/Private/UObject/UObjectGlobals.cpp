@@ -27,11 +27,6 @@ FObjectInitializer::FObjectInitializer(
 	Innermost = this;
 }
 
-FObjectInitializer::~FObjectInitializer()
-{
-	Innermost = Enclosing;
-}
-
 const FObjectInitializer& FObjectInitializer::Get()
 {
 	checkf(Innermost, TEXT("Objects of this class are made by NewObject only."));

@@ -13,7 +13,10 @@ class FProperty;
 class COREUOBJECT_API UStruct : public UObject
 {
 public:
-	bool IsChildOf(const UStruct* SomeBase) const;
+	bool IsChildOf(const UStruct* SomeBase) const
+	{
+		return this == SomeBase || (SuperStruct && SuperStruct->IsChildOf(SomeBase));
+	}
 
 	/** Looks in the base too; null when there is none. */
 	FProperty* FindPropertyByName(FName Name) const;

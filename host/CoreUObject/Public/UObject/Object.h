@@ -16,7 +16,7 @@ class COREUOBJECT_API FObjectInitializer
 {
 public:
 	FObjectInitializer(UObject* InObject, UClass* InClass, UObject* InOuter, FName InName, EObjectFlags InFlags);
-	~FObjectInitializer();
+	~FObjectInitializer() { Innermost = Enclosing; }
 	FObjectInitializer(const FObjectInitializer&) = delete;
 	FObjectInitializer& operator=(const FObjectInitializer&) = delete;
 
@@ -67,7 +67,10 @@ public:
 	FString GetName() const { return NamePrivate.ToString(); }
 
 	/** The names from the package inwards, joined by ".". */
-	FString GetPathName() const;
+	FString GetPathName() const
+	{
+		return (OuterPrivate ? OuterPrivate->GetPathName() + TEXT(".") : FString()) + GetName();
+	}
 
 	bool IsA(const UClass* SomeBase) const;
 

@@ -8,11 +8,20 @@
 /** Values as text. A text that is none for the type leaves the value alone. */
 namespace HostText
 {
-COREUOBJECT_API FString Write(bool Value);
-COREUOBJECT_API FString Write(float Value);
+inline FString Write(bool Value)
+{
+	return Value ? TEXT("True") : TEXT("False");
+}
+inline FString Write(float Value)
+{
+	return FString::Printf(TEXT("%f"), static_cast<double>(Value));
+}
+inline FString Write(const FVector4& Value)
+{
+	return FString::Printf(TEXT("(X=%f,Y=%f,Z=%f,W=%f)"), Value.X, Value.Y, Value.Z, Value.W);
+}
 COREUOBJECT_API FString Write(const FName& Value);
 COREUOBJECT_API FString Write(const FString& Value);
-COREUOBJECT_API FString Write(const FVector4& Value);
 COREUOBJECT_API FString WriteObject(const UObject* Value);
 COREUOBJECT_API FString WriteStruct(const UScriptStruct& Struct, const void* Value);
 

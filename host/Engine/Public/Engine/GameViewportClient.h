@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Engine/ScriptViewportClient.h"
+#include "Host/SceneRenderer.h"
 
 class ENGINE_API UGameViewportClient : public UScriptViewportClient
 {
@@ -10,7 +11,7 @@ public:
 	/** Sent when a game viewport and its client exist. */
 	static FSimpleMulticastDelegate& OnViewportCreated() { return CreatedDelegate; }
 
-	void Draw(FViewport* InViewport, FCanvas* SceneCanvas) override;
+	void Draw(FViewport* InViewport, FCanvas* SceneCanvas) override { HostScene::Draw(*InViewport, *SceneCanvas); }
 
 	void SetViewport(FViewport* InViewport) { Viewport = InViewport; }
 

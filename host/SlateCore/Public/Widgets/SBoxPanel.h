@@ -40,28 +40,16 @@ private:
 	TArray<FSlot> Slots;
 };
 
+/** How much room a slot takes is not kept: nothing is laid out. */
 struct FVerticalBoxSlot : TSlot<FVerticalBoxSlot>
 {
-	FVerticalBoxSlot& AutoHeight()
-	{
-		bIsAutoSized = true;
-		return *this;
-	}
-
-	/** How much of the height that is left, in relation to the others. */
+	FVerticalBoxSlot& AutoHeight() { return *this; }
 	FVerticalBoxSlot& FillHeight(float) { return *this; }
 };
 
 struct FHorizontalBoxSlot : TSlot<FHorizontalBoxSlot>
 {
-	/** How much of the room that is left, in relation to the others. */
-	FHorizontalBoxSlot& FillWidth(float InShare)
-	{
-		Share = InShare;
-		return *this;
-	}
-
-	float Share = 1.0f;
+	FHorizontalBoxSlot& FillWidth(float) { return *this; }
 };
 
 /** From top to bottom. */

@@ -69,7 +69,10 @@ public:
 	}
 
 	/** Asks for a session; it begins at the next tick. */
-	UNREALED_API void RequestPlaySession(const FRequestPlaySessionParams& InParams);
+	void RequestPlaySession(const FRequestPlaySessionParams& InParams)
+	{
+		PlaySessionRequest = MakeUnique<FRequestPlaySessionParams>(InParams);
+	}
 
 	/** Ends the session at the next tick. */
 	void RequestEndPlayMap() { bEndPlayRequested = true; }

@@ -85,9 +85,10 @@ EActiveTimerReturnType SLookPicture::Draw(double, float)
 						: Frame.Grade(LookColor::FControlsGrader(Grading));
 		bIsGraded = true;
 	}
-	// Textures are found by name: a picture under the name of the one before would not be seen.
+	// Textures are found by name: a picture under the name of the one before would not be seen. The names share their text,
+	// so that the table of names, which never shrinks, does not grow with each picture.
 	static uint32 Pictures = 0;
-	const FName Name(*FString::Printf(TEXT("TonalithPicture%u"), ++Pictures));
+	const FName Name(*FString::Printf(TEXT("TonalithPicture_%u"), ++Pictures));
 	const FVector2D Size(Frame.GetSize().X, Frame.GetSize().Y);
 	const TSharedPtr<FSlateDynamicImageBrush> Drawn =
 		FSlateDynamicImageBrush::CreateWithImageData(Name, Size, Frame.MakeTexture(Line));

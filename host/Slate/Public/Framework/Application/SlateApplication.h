@@ -43,7 +43,7 @@ public:
 	 */
 	SLATE_API void PushMenu(FName Name, const TSharedRef<SWidget>& Parent, const FMakeMenuContent& MakeContent);
 
-	SLATE_API void DismissAllMenus();
+	void DismissAllMenus() { DismissDownTo(0); }
 
 	/**
 	 * Closes the innermost menu that the widget is in, the menus opened from it first; those that it was opened from
@@ -60,7 +60,7 @@ public:
 private:
 	/** How many menus are open as far as the innermost one that the widget is in; 0 when it is in none. */
 	int32 DepthOf(const SWidget& Widget) const;
-	void DismissDownTo(int32 Count);
+	SLATE_API void DismissDownTo(int32 Count);
 
 	TArray<FOpenMenu> OpenMenus;
 	TArray<TSharedRef<SWindow>> Windows;

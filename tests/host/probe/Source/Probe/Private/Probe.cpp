@@ -1,11 +1,10 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "Probe.h"
-
+// A plug-in that writes down what the host does: one log line in category LogProbe an event.
 #include "Editor.h"
-#include "Engine/World.h"
 #include "LevelEditorViewport.h"
 #include "Misc/CoreDelegates.h"
 #include "Modules/ModuleManager.h"
+#include "ProbeSettings.h"
 #include "SLevelViewport.h"
 #include "ToolMenus.h"
 #include "UObject/UObjectGlobals.h"
@@ -21,27 +20,21 @@ const TCHAR* YesNo(bool bValue)
 	return bValue ? TEXT("yes") : TEXT("no");
 }
 
-template <size_t Size, typename... ArgTypes>
-void Say(const TCHAR (&Format)[Size], ArgTypes... Args)
-{
-	UE_LOG(LogProbe, Display, TEXT("%s"), *FString::Printf(Format, Args...));
-}
-
 /** What there is of the editor. */
 void SayState(const TCHAR* Event)
 {
-	Say(TEXT("%s: editor %s, objects %s, AssetTools %s"), Event, YesNo(GEditor != nullptr), YesNo(UObjectInitialized()),
-		YesNo(FModuleManager::Get().IsModuleLoaded("AssetTools")));
+	UE_LOG(LogProbe, Display, TEXT("%s: editor %s, objects %s, AssetTools %s"), Event, YesNo(GEditor != nullptr),
+		YesNo(UObjectInitialized()), YesNo(FModuleManager::Get().IsModuleLoaded("AssetTools")));
 }
 
-class FProbeModule final : public IProbeModule
+class FProbeModule final : public IModuleInterface
 {
 public:
 	void StartupModule() override
 	{
 		SayState(TEXT("start-up"));
-		Say(TEXT("self loaded %s, setting entries %d"), YesNo(FModuleManager::Get().IsModuleLoaded("Probe")),
-			GetDefault<UProbeSettings>()->Entries.Num());
+		UE_LOG(LogProbe, Display, TEXT("self loaded %s, setting entries %d"),
+			YesNo(FModuleManager::Get().IsModuleLoaded("Probe")), GetDefault<UProbeSettings>()->Entries.Num());
 		FModuleManager::Get().LoadModuleChecked("AssetTools");
 		const FToolMenuOwnerScoped Owner(this);
 		UToolMenu* Menu = UToolMenus::Get()->ExtendMenu(SLevelViewport::ViewMenuName);
@@ -49,18 +42,9 @@ public:
 		FWorldDelegates::OnPreWorldInitialization.AddRaw(this, &FProbeModule::OnWorld);
 		FCoreDelegates::OnFEngineLoopInitComplete.AddRaw(this, &FProbeModule::OnEngineLoop);
 		FCoreDelegates::OnPreExit.AddRaw(this, &FProbeModule::OnPreExit);
-		FEditorDelegates::CancelPIE.AddRaw(this, &FProbeModule::OnCancel);
-		BindPlay(FEditorDelegates::StartPIE, TEXT("StartPIE"));
-		BindPlay(FEditorDelegates::PreBeginPIE, TEXT("PreBeginPIE"));
-		BindPlay(FEditorDelegates::BeginPIE, TEXT("BeginPIE"));
-		BindPlay(FEditorDelegates::PostPIEStarted, TEXT("PostPIEStarted"));
-		BindPlay(FEditorDelegates::PrePIEEnded, TEXT("PrePIEEnded"));
-		BindPlay(FEditorDelegates::EndPIE, TEXT("EndPIE"));
-		BindPlay(FEditorDelegates::ShutdownPIE, TEXT("ShutdownPIE"));
-		UGameViewportClient::OnViewportCreated().AddRaw(this, &FProbeModule::OnGameViewport);
 	}
 
-	void PreUnloadCallback() override { Say(TEXT("pre-unload")); }
+	void PreUnloadCallback() override { SayState(TEXT("pre-unload")); }
 
 	void ShutdownModule() override
 	{
@@ -68,22 +52,11 @@ public:
 		SayState(TEXT("shut-down"));
 	}
 
-	UProbeSettings& Settings() override { return *GetMutableDefault<UProbeSettings>(); }
-
-	void ThrowAtNextEvent() override { bThrow = true; }
-
 private:
-	void BindPlay(FEditorDelegates::FOnPIEEvent& Event, const TCHAR* Name)
-	{
-		const auto Report = [Name](const bool)
-		{ Say(TEXT("%s: play viewport %s"), Name, YesNo(GEditor->GetPIEViewport() != nullptr)); };
-		Event.Add(FEditorDelegates::FOnPIEEvent::FDelegate::CreateLambda(Report));
-	}
-
 	void OnWorld(UWorld* World, const UWorld::InitializationValues)
 	{
-		Say(TEXT("world of type %d"), static_cast<int32>(World->WorldType));
-		if (bThrow)
+		UE_LOG(LogProbe, Display, TEXT("world of type %d"), static_cast<int32>(World->WorldType));
+		if (World->WorldType == EWorldType::GameRPC)
 		{
 			throw std::runtime_error("the probe throws");
 		}
@@ -91,45 +64,26 @@ private:
 
 	void OnEngineLoop()
 	{
-		Say(TEXT("engine loop complete: editor %s, panes %d"), YesNo(GEditor != nullptr),
-			GEditor->GetLevelViewportClients().Num());
+		SayState(TEXT("engine loop complete"));
 		GEditor->OnViewportClientListChanged().AddRaw(this, &FProbeModule::OnAllClients);
 		GEditor->OnLevelViewportClientListChanged().AddRaw(this, &FProbeModule::OnLevelClients);
 	}
 
-	void OnAllClients() { Say(TEXT("all clients: %d"), GEditor->GetAllViewportClients().Num()); }
+	void OnAllClients() { UE_LOG(LogProbe, Display, TEXT("all clients: %d"), GEditor->GetAllViewportClients().Num()); }
 
 	void OnLevelClients()
 	{
-		Say(TEXT("level clients: %d"), GEditor->GetLevelViewportClients().Num());
+		FString Panes;
 		for (const FLevelEditorViewportClient* Client : GEditor->GetLevelViewportClients())
 		{
 			const TSharedPtr<SEditorViewport> Widget = Client->GetEditorViewportWidget();
-			Say(TEXT("  %s, viewport %s"),
-				Widget.IsValid() ? *StaticCastSharedPtr<SLevelViewport>(Widget)->GetConfigKey().ToString() : TEXT("-"),
-				YesNo(Client->Viewport != nullptr));
+			Panes += TEXT(" ") + StaticCastSharedPtr<SLevelViewport>(Widget)->GetConfigKey().ToString() +
+					 (Client->Viewport ? TEXT(" with viewport") : TEXT(""));
 		}
+		UE_LOG(LogProbe, Display, TEXT("level clients:%s"), *Panes);
 	}
-
-	void OnGameViewport()
-	{
-		int32 Games = 0;
-		int32 Worlds = 0;
-		for (const FWorldContext& Context : GEditor->GetWorldContexts())
-		{
-			Games += Context.GameViewport == GEditor->GameViewport;
-			++Worlds;
-		}
-		Say(TEXT("game viewport: client matches %s, active viewport plays %s, in %d of %d worlds"),
-			YesNo(GEditor->GetPIEViewport()->GetClient() == static_cast<FViewportClient*>(GEditor->GameViewport)),
-			YesNo(GEditor->GetActiveViewport() == GEditor->GetPIEViewport()), Games, Worlds);
-	}
-
-	void OnCancel() { Say(TEXT("CancelPIE")); }
 
 	void OnPreExit() { SayState(TEXT("pre-exit")); }
-
-	bool bThrow = false;
 };
 } // namespace
 
