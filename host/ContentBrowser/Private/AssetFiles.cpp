@@ -1,7 +1,6 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "Host/AssetFiles.h"
 
-#include "Exporters/Exporter.h"
 #include "Factories/Factory.h"
 #include "Host/Assets.h"
 #include "Host/Trace.h"
@@ -63,10 +62,4 @@ UObject* HostContentBrowser::Import(const FString& File, const FString& Folder)
 		HostAssets::Add(*Asset);
 	}
 	return Asset;
-}
-
-bool HostContentBrowser::Export(UObject& Asset, const FString& File)
-{
-	UExporter* const Exporter = UExporter::FindExporter(&Asset, *FPaths::GetExtension(File));
-	return Exporter && UExporter::ExportToFile(&Asset, Exporter, *File, false) == 1;
 }

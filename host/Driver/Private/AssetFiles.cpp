@@ -4,6 +4,8 @@
 #include "Editor.h"
 #include "EditorDriver.h"
 #include "EditorReimportHandler.h"
+#include "Exporters/Exporter.h"
+#include "Misc/Paths.h"
 #include "UObject/UObjectGlobals.h"
 
 UObject& FEditorDriver::Asset(const FString& Path) const
@@ -33,7 +35,8 @@ bool FEditorDriver::Reimport(const FString& Path)
 
 void FEditorDriver::Export(const FString& Path, const FString& File)
 {
-	if (!HostContentBrowser::Export(Asset(Path), File))
+	UExporter* const Exporter = UExporter::FindExporter(&Asset(Path), *FPaths::GetExtension(File));
+	if (!Exporter || !UExporter::ExportToFile(&Asset(Path), Exporter, *File, false))
 	{
 		throw FDriverError(FString::Printf(TEXT("%s cannot be exported to %s"), *Path, *File));
 	}

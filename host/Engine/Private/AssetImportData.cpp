@@ -3,9 +3,4 @@
 
 #include "UObject/GeneratedCppIncludes.h"
 
-UClass* UAssetImportData::StaticClass()
-{
-	static UClass* const Class = HostReflection::NewClass(TEXT("/Script/Engine"), TEXT("AssetImportData"),
-		sizeof(UAssetImportData), TEXT(""), &HostReflection::Construct<UAssetImportData>, UObject::StaticClass());
-	return Class;
-}
+HOST_DEFINE_OWN_CLASS(Engine, U, AssetImportData, &HostReflection::Construct<UAssetImportData>)

@@ -22,12 +22,7 @@ public:
 
 UExporter::UExporter(const FObjectInitializer& ObjectInitializer) : UObject(ObjectInitializer) {}
 
-UClass* UExporter::StaticClass()
-{
-	static UClass* const Class = HostReflection::NewClass(
-		TEXT("/Script/Engine"), TEXT("Exporter"), sizeof(UExporter), TEXT(""), nullptr, UObject::StaticClass());
-	return Class;
-}
+HOST_DEFINE_OWN_CLASS(Engine, U, Exporter, nullptr)
 
 UExporter* UExporter::FindExporter(UObject* Object, const TCHAR* Extension)
 {

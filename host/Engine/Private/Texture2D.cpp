@@ -6,12 +6,7 @@
 #include "Misc/App.h"
 #include "UObject/GeneratedCppIncludes.h"
 
-UClass* UTexture2D::StaticClass()
-{
-	static UClass* const Class = HostReflection::NewClass(TEXT("/Script/Engine"), TEXT("Texture2D"), sizeof(UTexture2D),
-		TEXT(""), &HostReflection::Construct<UTexture2D>, UObject::StaticClass());
-	return Class;
-}
+HOST_DEFINE_OWN_CLASS(Engine, U, Texture2D, &HostReflection::Construct<UTexture2D>)
 
 UTexture2D* UTexture2D::CreateTransient(int32 InSizeX, int32 InSizeY, EPixelFormat)
 {

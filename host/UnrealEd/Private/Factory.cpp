@@ -5,9 +5,4 @@
 
 UFactory::UFactory(const FObjectInitializer& ObjectInitializer) : UObject(ObjectInitializer) {}
 
-UClass* UFactory::StaticClass()
-{
-	static UClass* const Class = HostReflection::NewClass(
-		TEXT("/Script/UnrealEd"), TEXT("Factory"), sizeof(UFactory), TEXT(""), nullptr, UObject::StaticClass());
-	return Class;
-}
+HOST_DEFINE_OWN_CLASS(UnrealEd, U, Factory, nullptr)

@@ -15,7 +15,4 @@ namespace HostContentBrowser
  * @return null when nobody imports the file, or that fails
  */
 CONTENTBROWSER_API UObject* Import(const FString& File, const FString& Folder);
-
-/** Exports an asset by the exporter for the file's extension. @return false when there is none, or it fails */
-CONTENTBROWSER_API bool Export(UObject& Asset, const FString& File);
 } // namespace HostContentBrowser

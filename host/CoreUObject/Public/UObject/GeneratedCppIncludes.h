@@ -56,6 +56,15 @@ struct FRegisterCompiledInInfo
 		return Z_Construct_##Kind##_##Name();                                                                          \
 	}
 
+/** A class of the host's own, without properties. @param Constructor null for an abstract class */
+#define HOST_DEFINE_OWN_CLASS(Module, Prefixed, Name, Constructor)                                                     \
+	UClass* Prefixed##Name::StaticClass()                                                                              \
+	{                                                                                                                  \
+		static UClass* const Class = HostReflection::NewClass(TEXT("/Script/" #Module), TEXT(#Name),                   \
+			sizeof(Prefixed##Name), TEXT(""), Constructor, UObject::StaticClass());                                    \
+		return Class;                                                                                                  \
+	}
+
 #define HOST_DEFINE_STRUCT(Name) HOST_DEFINE_TYPE(UScriptStruct, Name, StaticStruct, StaticStruct)
 
 #define HOST_DEFINE_CLASS(Name)                                                                                        \
