@@ -32,11 +32,11 @@ protected:
 		std::ofstream(Folder / File, std::ios::binary) << Text;
 	}
 
-	FProgramResult Play(const wchar_t* Story) const
+	FProgramResult Play(const wchar_t* Story, const std::wstring& More = {}) const
 	{
 		const std::wstring Root = Folder.wstring();
-		return RunHeadlessEditor(
-			L"-story=" + Root + L"/" + Story + L" -project=" + Root + L"/project -plugins=" + Root + L"/plugins");
+		return RunHeadlessEditor(L"-story=" + Root + L"/" + Story + L" -project=" + Root + L"/project -plugins=" +
+								 Root + L"/plugins" + More);
 	}
 
 	/** The reason is the last line, and nothing comes after it. */
@@ -107,6 +107,26 @@ TEST_F(BadInput, PluginsNameTheFileAndWhatIsWrong)
 	fs::remove(Folder / L"plugins/Bad/Binaries/Win64/UnrealEditor-Bad.dll");
 	fs::copy_file(fs::path(System) / L"version.dll", Folder / L"plugins/Bad/Binaries/Win64/UnrealEditor-Bad.dll");
 	ExpectReason(L"start.story", "UnrealEditor-Bad.dll: the library does not export InitializeModule");
+}
+
+TEST_F(BadInput, ThePageOfAStoryNeedsNoOtherFile)
+{
+	Write("page.story",
+		"# A & B\nstart\nlayout TwoPanesHoriz\nopen menu View\nsave picture a\n# End\nsave picture b\nquit\n");
+	const FProgramResult Result = Play(L"page.story", L" -report=" + (Folder / L"out").wstring());
+	EXPECT_EQ(Result.ExitCode, 0u) << Result.Output;
+	std::ifstream File(Folder / L"out/index.html", std::ios::binary);
+	const std::string Page(std::istreambuf_iterator<char>(File), {});
+	for (const char* Shown :
+		{"<title>page</title>", "<p>A &amp; B </p>", "class=\"panes n2\"", "data:image/png;base64,iVBOR",
+			"<li class=\"toggle on\">Realtime", "<summary>Steps</summary>", "class=\"picture p", "type=\"range\""})
+	{
+		EXPECT_THAT(Page, HasSubstr(Shown));
+	}
+	for (const char* Reference : {"http", "src=", "href=", "@import"})
+	{
+		EXPECT_EQ(Page.find(Reference), Page.npos) << Reference;
+	}
 }
 
 TEST_F(BadInput, ArgumentsAreChecked)

@@ -42,18 +42,10 @@ public:
 	ChildProcess(const ChildProcess&) = delete;
 	ChildProcess& operator=(const ChildProcess&) = delete;
 
-	bool endsWithin(DWORD milliseconds) const
-	{
-		return WaitForSingleObject(process.hProcess, milliseconds) == WAIT_OBJECT_0;
-	}
-
-	/** Ends it as a crash would, with an exit code. */
-	void terminate(UINT code) const { TerminateProcess(process.hProcess, code); }
-
 	/** Waits for the end. */
 	DWORD exitCode() const
 	{
-		endsWithin(INFINITE);
+		WaitForSingleObject(process.hProcess, INFINITE);
 		DWORD code = 0;
 		GetExitCodeProcess(process.hProcess, &code);
 		return code;
