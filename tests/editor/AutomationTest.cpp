@@ -14,11 +14,11 @@ TEST_F(Automation, TestsOfThePluginPassInASession)
 	StartWithPanes();
 	const TArray<FAutomationTestBase*> Tests = HostAutomation::GetTests();
 	EXPECT_GE(Tests.Num(), 6);
-	for (FAutomationTestBase* Test : Tests)
+	for (FAutomationTestBase* Each : Tests)
 	{
-		for (const FString& Error : Test->Run())
+		for (const FString& Error : Each->Run())
 		{
-			ADD_FAILURE() << TCHAR_TO_UTF8(*Test->GetTestFullName()) << ": " << TCHAR_TO_UTF8(*Error);
+			ADD_FAILURE() << TCHAR_TO_UTF8(*Each->GetTestFullName()) << ": " << TCHAR_TO_UTF8(*Error);
 		}
 	}
 	EXPECT_FALSE(FModuleManager::Get().IsModuleLoaded("TonalithEditor")) << "the last one unloads it";
@@ -31,11 +31,11 @@ TEST_F(Automation, TestsOfThePluginSeeWhenItIsGone)
 	ASSERT_FALSE(Tests.IsEmpty());
 	Tests.Last()->Run();
 	FLines Passed;
-	for (FAutomationTestBase* Test : Tests)
+	for (FAutomationTestBase* Each : Tests)
 	{
-		if (Test->Run().IsEmpty())
+		if (Each->Run().IsEmpty())
 		{
-			Passed.push_back(TCHAR_TO_UTF8(*Test->GetTestFullName()));
+			Passed.push_back(TCHAR_TO_UTF8(*Each->GetTestFullName()));
 		}
 	}
 	EXPECT_THAT(Passed,

@@ -18,9 +18,9 @@ public:
 	void SetObject(UObject* InObject, bool) override
 	{
 		SVerticalBox::FArguments Rows;
-		for (const UStruct* Type = InObject ? InObject->GetClass() : nullptr; Type; Type = Type->SuperStruct)
+		for (const UStruct* Each = InObject ? InObject->GetClass() : nullptr; Each; Each = Each->SuperStruct)
 		{
-			for (const auto& Property : Type->Properties)
+			for (const auto& Property : Each->Properties)
 			{
 				if (Property->HasAnyPropertyFlags(CPF_Edit))
 				{
