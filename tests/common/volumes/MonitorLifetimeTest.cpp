@@ -2,6 +2,8 @@
 #include "GuardHeap.h"
 #include "Monitoring.h"
 
+#include <semaphore>
+
 namespace
 {
 using Kiln::VolumeEventMonitor;
@@ -11,25 +13,16 @@ const FakeVolume share{.paths = {L"N:\\"}, .driveType = DRIVE_REMOTE};
 const FakeVolume other{.paths = {L"Z:\\"}, .driveType = DRIVE_REMOTE};
 
 /** Where a thread waits until it is told to go on. */
-class Gate
+struct Gate
 {
-public:
 	void pass()
 	{
-		isReached_ = true;
-		EXPECT_TRUE(isTrueSoon([&] { return isOpen_.load(); }));
+		reached.release();
+		EXPECT_TRUE(opened.try_acquire_for(std::chrono::seconds(10)));
 	}
 
-	bool waitUntilReached()
-	{
-		return isTrueSoon([&] { return isReached_.load(); });
-	}
-
-	void open() { isOpen_ = true; }
-
-private:
-	std::atomic<bool> isReached_ = false;
-	std::atomic<bool> isOpen_ = false;
+	std::counting_semaphore<> reached{0};
+	std::counting_semaphore<> opened{0};
 };
 
 TEST(MonitorLifetime, TheThreadEndsWhereverItIs)
@@ -43,10 +36,10 @@ TEST(MonitorLifetime, TheThreadEndsWhereverItIs)
 		WarningLog log;
 		auto monitor = std::make_unique<VolumeEventMonitor>();
 		monitor->start();
-		ASSERT_TRUE(gate.waitUntilReached());
+		ASSERT_TRUE(gate.reached.try_acquire_for(std::chrono::seconds(10)));
 		std::jthread destroyer([&] { monitor.reset(); });
 		std::this_thread::sleep_for(std::chrono::milliseconds(20));
-		gate.open();
+		gate.opened.release();
 		destroyer.join();
 		EXPECT_EQ(log.text(), "");
 		EXPECT_EQ(monitorWindow(), nullptr);
@@ -71,7 +64,7 @@ TEST(MonitorLifetime, ADriveThatDoesNotAnswerDelaysTheEndByItsOwnQueryAlone)
 	RecordingObserver observer;
 	auto monitor = std::make_unique<VolumeEventMonitor>();
 	monitor->start();
-	ASSERT_TRUE(gate.waitUntilReached());
+	ASSERT_TRUE(gate.reached.try_acquire_for(std::chrono::seconds(10)));
 	EXPECT_EQ(monitor->mountedVolumes().size(), 1u);
 	Texts paths;
 	EXPECT_EQ(monitor->listMountPoints(paths), 3u);
@@ -80,7 +73,7 @@ TEST(MonitorLifetime, ADriveThatDoesNotAnswerDelaysTheEndByItsOwnQueryAlone)
 	const auto post = counted("PostMessageW", &PostMessageW);
 	std::jthread destroyer([&] { monitor.reset(); });
 	ASSERT_TRUE(isTrueSoon([&] { return post.calls() > 0; }));
-	gate.open();
+	gate.opened.release();
 	destroyer.join();
 	EXPECT_EQ(computer.queries, 2) << "the last drive is not asked any more";
 	EXPECT_EQ(observer.events(), Texts{"+N:"});
@@ -142,25 +135,19 @@ TEST(MonitorLifetime, AThreadThatIsGoneIsNotWaitedFor)
 	EXPECT_EQ(listening.log.text(), "");
 }
 
-TEST(MonitorLifetime, AnOverridingClassStopsForGood)
+TEST(MonitorLifetime, ComIsLeftOnceOnTheThreadThatDestroys)
 {
 	struct Stopping : VolumeEventMonitor
 	{
 		using VolumeEventMonitor::stop;
-	} monitor;
-	const FakeComputer computer({system});
-	EXPECT_TRUE(monitor.start());
-	monitor.stop();
-	EXPECT_FALSE(monitor.start());
-}
-
-TEST(MonitorLifetime, ComIsLeftOnceOnTheThreadThatDestroys)
-{
+	};
 	std::vector<std::thread::id> threads;
 	const ImportOverride com("CoUninitialize", &CoUninitialize, [&] { threads.push_back(std::this_thread::get_id()); });
 	{
 		const Listening listening({system});
-		const VolumeEventMonitor neverStarted;
+		Stopping stopped;
+		stopped.stop();
+		EXPECT_FALSE(stopped.start()) << "it stops for good";
 	}
 	EXPECT_EQ(threads, std::vector<std::thread::id>(2, std::this_thread::get_id()));
 }

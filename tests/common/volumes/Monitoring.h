@@ -16,6 +16,7 @@
 #include <regex>
 #include <shlobj.h>
 #include <sstream>
+#include <tuple>
 
 using Texts = std::vector<std::string>;
 
@@ -59,12 +60,8 @@ inline auto watchBelow()
 		[real = &SHChangeNotifyRegister](
 			HWND window, int sources, LONG events, UINT message, int count, const SHChangeNotifyEntry* entry)
 		{
-			EXPECT_NE(window, nullptr);
-			EXPECT_EQ(sources, 0x8003);
-			EXPECT_EQ(events, 0x1E0);
-			EXPECT_EQ(message, 0x4C8u);
-			EXPECT_EQ(count, 1);
-			EXPECT_EQ(entry->fRecursive, FALSE);
+			EXPECT_EQ(std::tuple(sources, events, message, count, entry->fRecursive),
+				std::tuple(0x8003, 0x1E0, 0x4C8u, 1, FALSE));
 			SHChangeNotifyEntry all = *entry;
 			all.fRecursive = TRUE;
 			return real(window, sources, events, message, 1, &all);
