@@ -120,15 +120,11 @@ TEST(Parse, BadTextIsAnErrorWhereItStands)
 	};
 	const Case table[] = {
 		{"", rapidjson::kParseErrorDocumentEmpty, 0},
-		{" \n", rapidjson::kParseErrorDocumentEmpty, 2},
 		{"{}\0"s, rapidjson::kParseErrorDocumentRootNotSingular, 2},
-		{"{} {}", rapidjson::kParseErrorDocumentRootNotSingular, 3},
 		{"\xEF\xBB\xBF{}", rapidjson::kParseErrorValueInvalid, 0},
-		{R"(["\uD800"])", rapidjson::kParseErrorStringUnicodeSurrogateInvalid, 2},
 		{R"(["\uD800\u0041"])", rapidjson::kParseErrorStringUnicodeSurrogateInvalid, 2},
 		{"[1 , 01e999]", rapidjson::kParseErrorArrayMissCommaOrSquareBracket, 6},
 		{"[12345678901234567.]", rapidjson::kParseErrorNumberMissFraction, 19},
-		{"[0.12345678901234567e+]", rapidjson::kParseErrorNumberMissExponent, 22},
 		{"[0.12345678901234567x]", rapidjson::kParseErrorArrayMissCommaOrSquareBracket, 20},
 		{std::string(BlockSize, ' ') + "\t\r\n{,}", rapidjson::kParseErrorObjectMissName, BlockSize + 4},
 	};
@@ -160,10 +156,5 @@ TEST(Parse, AStreamThatFailsIsTextCutShort)
 	EXPECT_EQ(parse(stream).GetParseError(), rapidjson::kParseErrorStringMissQuotationMark);
 	EXPECT_TRUE(stream.bad());
 	EXPECT_EQ(parse(stream).GetParseError(), rapidjson::kParseErrorDocumentEmpty) << "nothing more is read";
-
-	Breaking another(text);
-	std::istream throwing(&another);
-	throwing.exceptions(std::ios::badbit);
-	EXPECT_THROW(parse(throwing), std::runtime_error);
 }
 } // namespace

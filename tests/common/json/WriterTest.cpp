@@ -7,11 +7,8 @@
 #include <cstring>
 #include <gtest/gtest.h>
 #include <iomanip>
-#include <limits>
 #include <locale>
 #include <random>
-#include <sstream>
-#include <string>
 
 namespace
 {
@@ -63,47 +60,22 @@ TEST(Writer, LaysOutOneMemberALine)
 							"\t],\n"
 							"\t\"last\" : []\n"
 							"}");
-	std::ostringstream stream;
-	json::Writer::Write(json::Object(), stream);
-	json::Writer::Write(json::Array(), stream);
-	json::Writer::Write(json::Boolean(true), stream);
-	EXPECT_EQ(stream.str(), "{}[]true");
 }
 
 TEST(Writer, EscapesSevenBytesInTextsAndNames)
 {
 	std::string every;
-	for (int byte = 0; byte < 256; ++byte)
-	{
-		every += static_cast<char>(byte);
-	}
 	std::string expected;
-	for (const char byte : every)
+	for (int number = 0; number < 256; ++number)
 	{
+		const char byte = static_cast<char>(number);
+		every += byte;
 		const std::size_t at = std::string("\b\t\n\f\r\"\\").find(byte);
 		expected += at == std::string::npos ? std::string(1, byte) : std::string("\\") + "btnfr\"\\"[at];
 	}
 	EXPECT_EQ(textOf(json::String(every)), "\"" + expected + "\"");
 	const std::string plain(10'000, 'x');
 	EXPECT_EQ(textOf(json::String(plain)), "\"" + plain + "\"");
-}
-
-TEST(Writer, WritesNumbersAsTheyRead)
-{
-	constexpr double Infinity = std::numeric_limits<double>::infinity();
-	const std::pair<json::Number, const char*> table[] = {
-		{0.1 + 0.2, "0.30000000000000004"},
-		{1152921504606846976.0, "1.152921504606847e+18"},
-		{{1152921504606846976.0, 20}, "1152921504606846976"},
-		{std::numeric_limits<double>::max(), "1.7976931348623157e+308"},
-		{{1234, 0}, "1e+03"},
-		{Infinity, "null"},
-		{{std::numeric_limits<double>::quiet_NaN(), 5}, "null"},
-	};
-	for (const auto& [number, text] : table)
-	{
-		EXPECT_EQ(textOf(number), text);
-	}
 }
 
 TEST(Writer, TakesTheFewestDigitsOfFifteenToSeventeenThatReadBack)
@@ -127,6 +99,8 @@ TEST(Writer, TakesTheFewestDigitsOfFifteenToSeventeenThatReadBack)
 			}
 		}
 	}
+	EXPECT_EQ(textOf(json::Number(0.1 + 0.2)), "0.30000000000000004");
+	EXPECT_EQ(textOf(json::Number(HUGE_VAL)) + textOf(json::Number(std::nan(""), 5)), "nullnull");
 	for (const double value : {0.1, 123456.789, 1e-310, 1e308, 2.0 / 3})
 	{
 		for (const int precision : {0, 1, 6, 17, 30, 800, 5000})
@@ -148,14 +122,11 @@ TEST(Writer, NeitherObeysNorChangesTheStreamsFormat)
 	const std::locale global = std::locale::global(comma);
 	std::ostringstream stream;
 	stream << std::hex << std::fixed << std::showpos << std::setprecision(2) << std::setfill('*') << std::setw(40);
-	std::ostringstream before;
-	before.copyfmt(stream);
 	json::Writer::Write(tree("[1234567.5,30000]"), stream);
 	EXPECT_EQ(stream.str(), "[\n\t1234567.5,\n\t30000\n]");
 	stream.str("");
-	stream << 1234567.125;
-	before << 1234567.125;
-	EXPECT_EQ(stream.str(), before.str());
+	stream << 1234567.75;
+	EXPECT_EQ(stream.str(), std::string(27, '*') + "+1.234.567,75");
 	std::locale::global(global);
 }
 } // namespace
