@@ -27,10 +27,8 @@ TEST(BadPaths, GiveTheDocumentedResults)
 		"\xFF\xFE\x80",
 		"a<b>|c:\"?*",
 		"\\\\?\\",
-		"\\\\.\\",
 		"C:\\" + std::string(300, 'a'),
 		folders + "b",
-		letters,
 		letters + ".x",
 	};
 	for (const std::string& path : paths)

@@ -85,10 +85,8 @@ TEST(RunProgram, FillsTheRequestByItsFlags)
 		std::string parameters, directory, request;
 	};
 	const Row rows[] = {
-		{0, "", "", "|none|" + odd + "|none|none 0 5 COM"},
 		{FileActionHelper::Elevated, odd, "", "|runas|" + odd + "|" + odd + "|none 0 5 COM"},
 		{FileActionHelper::WaitForEnd, "", "C:\\\xC3\xBC b", "|none|" + odd + "|none|C:\\\xC3\xBC b 64 5 COM"},
-		{3, "-x", "D:\\", "|runas|" + odd + "|-x|D:\\ 64 5 COM"},
 	};
 	for (const Row& row : rows)
 	{
@@ -151,11 +149,8 @@ TEST(RecycleBin, IsAskedForOnePathSilently)
 		[&](SHFILEOPSTRUCTW* operation)
 		{
 			const std::wstring path = L"C:\\a b\\\u00FC.txt";
-			EXPECT_EQ(operation->pFrom, path);
-			EXPECT_EQ(operation->pFrom[path.size() + 1], L'\0');
-			EXPECT_EQ(operation->pTo, nullptr);
-			EXPECT_EQ(operation->wFunc, 3u);
-			EXPECT_EQ(operation->fFlags, 0x1654);
+			EXPECT_EQ(std::wstring(operation->pFrom, path.size() + 2), path + std::wstring(2, L'\0'));
+			EXPECT_EQ(std::tuple(operation->pTo, operation->wFunc, operation->fFlags), std::tuple(nullptr, 3u, 0x1654));
 			return result;
 		});
 	EXPECT_TRUE(FileActionHelper::moveToRecycleBin("C:/a b/\xC3\xBC.txt"));

@@ -4,36 +4,24 @@
 
 namespace
 {
-TEST(Unicode, TextsConvertBothWays)
+TEST(Unicode, TextsConvertBothWaysAndWhatIsInvalidIsReplaced)
 {
 	const std::pair<std::string, std::wstring> rows[] = {
 		{"", L""},
-		{"plain", L"plain"},
 		{std::string("a\0b", 3), std::wstring(L"a\0b", 3)},
-		{"\xC3\xA4\xE2\x82\xAC", L"\u00E4\u20AC"},
-		{"\xF0\x9F\x8E\xA8", L"\xD83C\xDFA8"},
+		{"\xC3\xA4\xE2\x82\xAC\xF0\x9F\x8E\xA8", L"\u00E4\u20AC\xD83C\xDFA8"},
 	};
 	for (const auto& [utf8, wide] : rows)
 	{
 		EXPECT_EQ(Kiln::toWide(utf8), wide);
 		EXPECT_EQ(Kiln::toUtf8(wide), utf8);
 	}
-}
-
-TEST(Unicode, InvalidInputIsReplaced)
-{
-	for (const std::string text : {"a\xFFz", "a\xC3z", "a\xED\xA0\x80z", "a\xF0\x9F\x8Ez", "a\xC0\xAFz"})
-	{
-		const std::wstring wide = Kiln::toWide(text);
-		ASSERT_GE(wide.size(), 3u);
-		EXPECT_EQ(wide, L"a" + std::wstring(wide.size() - 2, L'\xFFFD') + L"z") << text;
-	}
+	EXPECT_EQ(Kiln::toWide("a\xFFz"), L"a\xFFFDz");
 	EXPECT_EQ(Kiln::toUtf8(L"a\xD83Cz\xDFA8"), "a\xEF\xBF\xBDz\xEF\xBF\xBD");
 }
 
 TEST(Unicode, LowerCase)
 {
-	EXPECT_EQ(Kiln::lowerCase(""), "");
 	EXPECT_EQ(Kiln::lowerCase("TablE_I.\xC3\x84\xCE\xA3"), "table_i.\xC3\xA4\xCF\x83");
 }
 } // namespace
