@@ -64,31 +64,27 @@ private:
 	std::streambuf* const error_;
 };
 
-TEST(LoggerThreads, OfOneFileLoseAndMixNothing)
+TEST(LoggerThreads, OfOneFileAndOfTheConsoleLoseAndMixNothing)
 {
-	constexpr int Threads = 16;
+	constexpr int OfFile = 12;
+	constexpr int OfConsole = 4;
 	constexpr int Lines = 5'000;
 	const TemporaryFolder folder;
 	Kiln::Logger logger;
 	logger.setDefaultLogFile(folder / "a.log");
-	onThreads(Threads, [&](int thread) { warnOften(logger, "writer " + std::to_string(thread / 2), thread, Lines); });
-	expectAllLines(linesOf(folder / "a.log"), Threads, Lines);
-}
-
-TEST(LoggerThreads, OfTheConsoleShareIt)
-{
-	constexpr int Threads = 4;
-	constexpr int Lines = 500;
-	Kiln::Logger logger;
 	const Console console;
-	onThreads(Threads,
+	onThreads(OfFile + OfConsole,
 		[&](int thread)
 		{
-			const std::string name = "writer " + std::to_string(thread);
-			thread % 2 ? logger.redirectToConsole(name) : logger.redirectToErrorConsole(name);
-			warnOften(logger, name, thread, Lines);
+			const std::string name = "writer " + std::to_string(thread < OfFile ? thread / 2 : thread);
+			if (thread >= OfFile)
+			{
+				thread % 2 ? logger.redirectToConsole(name) : logger.redirectToErrorConsole(name);
+			}
+			warnOften(logger, name, thread % OfFile, Lines);
 		});
-	expectAllLines(console.lines(), Threads, Lines);
+	expectAllLines(linesOf(folder / "a.log"), OfFile, Lines);
+	expectAllLines(console.lines(), OfConsole, Lines);
 }
 
 TEST(LoggerThreads, MayLogWhileOthersConfigure)

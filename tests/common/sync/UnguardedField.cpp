@@ -4,18 +4,11 @@
 
 namespace
 {
-class Counter
+struct Counter
 {
-public:
-	int next() { return ++count_; }
+	int next() { return ++count; }
 
-private:
 	Kiln::Lock lock_;
-	int count_ KILN_GUARDED_BY(lock_) = 0;
+	int count KILN_GUARDED_BY(lock_) = 0;
 };
 } // namespace
-
-int use()
-{
-	return Counter().next();
-}
