@@ -54,12 +54,9 @@ TEST_F(StringFile, ThatIsBadAddsNothingAndTellsWhere)
 		const char* place;
 	} rows[] = {
 		{"", ":1:1: The document is empty."},
-		{"\xEF\xBB\xBF", ":1:1: The document is empty."},
 		{"[\"a\"]", ":1:1: The document root is not an object."},
 		{"{\n\t\"a\": \"b\",\n}", ":3:1: Missing a name for object member."},
-		{"{\"a\": \"b", ":1:9: Missing a closing quotation mark in string."},
 		{"{\"a\": \"\xFF\"}", ":1:8: Invalid encoding in string."},
-		{"{\"a\": 1e}", ":1:9: Miss exponent in number."},
 		{"{\"a\": \"b\"} x", ":1:12: The document root must not be followed by other values."},
 	};
 	for (const auto& row : rows)
