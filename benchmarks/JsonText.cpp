@@ -4,6 +4,7 @@
 
 #include <cajun/json/writer.h>
 #include <kiln/JsonConversion.h>
+#include <rapidjson/document.h>
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
 #include <sstream>

@@ -9,6 +9,7 @@
 #include <kiln/Folders.h>
 #include <kiln/JSONLoadHelper.h>
 #include <kiln/JSONLoader.h>
+#include <rapidjson/document.h>
 
 namespace
 {
