@@ -5,6 +5,7 @@
 #include "SystemFunction.h"
 #include "TemporaryFolder.h"
 
+#include <cstdlib>
 #include <gmock/gmock.h>
 #include <kiln/Logger.h>
 
@@ -168,6 +169,41 @@ TEST_F(LoggerTest, TakesStreams)
 	logger.removeComponent("taker");
 	EXPECT_EQ(liveHeapObjects(), before);
 	EXPECT_EQ(shared.str(), "1\n");
+}
+
+TEST_F(LoggerTest, WhereMemoryRunsOutNoComponentIsHalfMade)
+{
+	logger.setDefaultLogFile(folder / "a.log");
+	logger.setDefaultLevel(Kiln::LogLevel::warning);
+	bool isOut = true;
+	for (int rest = 0; isOut; ++rest)
+	{
+		isOut = false;
+		const std::string end = " component that fails at allocation " + std::to_string(rest);
+		const auto make = [&](const char* kind, const auto& call)
+		{
+			int left = rest;
+			ImportOverride guarded(
+				"VirtualAlloc", &VirtualAlloc, [](LPVOID, SIZE_T, DWORD, DWORD) -> LPVOID { return nullptr; });
+			ImportOverride plain("malloc", &std::malloc,
+				[&left, real = systemFunction(&std::malloc, "malloc")](std::size_t size)
+				{ return left-- == 0 ? nullptr : real(size); });
+			try
+			{
+				call(kind + end);
+			}
+			catch (const std::bad_alloc&)
+			{
+				isOut = true;
+			}
+		};
+		make("a", [&](const std::string& name) { logger.component(name); });
+		make("b", [&](const std::string& name) { logger.redirectToErrorConsole(name); });
+		EXPECT_EQ(component("a" + end).level(), Kiln::LogLevel::warning);
+		EXPECT_EQ(component("b" + end).level(), Kiln::LogLevel::warning);
+		component("a" + end).log(isOut ? "" : "last", Kiln::LogLevel::warning);
+	}
+	EXPECT_EQ(linesOf(folder / "a.log").back(), "last");
 }
 
 } // namespace

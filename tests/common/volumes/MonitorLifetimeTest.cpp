@@ -2,8 +2,6 @@
 #include "GuardHeap.h"
 #include "Monitoring.h"
 
-#include <semaphore>
-
 namespace
 {
 using Kiln::VolumeEventMonitor;
@@ -13,16 +11,25 @@ const FakeVolume share{.paths = {L"N:\\"}, .driveType = DRIVE_REMOTE};
 const FakeVolume other{.paths = {L"Z:\\"}, .driveType = DRIVE_REMOTE};
 
 /** Where a thread waits until it is told to go on. */
-struct Gate
+class Gate
 {
+public:
 	void pass()
 	{
-		reached.release();
-		EXPECT_TRUE(opened.try_acquire_for(std::chrono::seconds(10)));
+		isReached_ = true;
+		EXPECT_TRUE(isTrueSoon([&] { return isOpen_.load(); }));
 	}
 
-	std::counting_semaphore<> reached{0};
-	std::counting_semaphore<> opened{0};
+	bool waitUntilReached()
+	{
+		return isTrueSoon([&] { return isReached_.load(); });
+	}
+
+	void open() { isOpen_ = true; }
+
+private:
+	std::atomic<bool> isReached_ = false;
+	std::atomic<bool> isOpen_ = false;
 };
 
 TEST(MonitorLifetime, TheThreadEndsWhereverItIs)
@@ -36,10 +43,10 @@ TEST(MonitorLifetime, TheThreadEndsWhereverItIs)
 		WarningLog log;
 		auto monitor = std::make_unique<VolumeEventMonitor>();
 		monitor->start();
-		ASSERT_TRUE(gate.reached.try_acquire_for(std::chrono::seconds(10)));
+		ASSERT_TRUE(gate.waitUntilReached());
 		std::jthread destroyer([&] { monitor.reset(); });
 		std::this_thread::sleep_for(std::chrono::milliseconds(20));
-		gate.opened.release();
+		gate.open();
 		destroyer.join();
 		EXPECT_EQ(log.text(), "");
 		EXPECT_EQ(monitorWindow(), nullptr);
@@ -64,7 +71,7 @@ TEST(MonitorLifetime, ADriveThatDoesNotAnswerDelaysTheEndByItsOwnQueryAlone)
 	RecordingObserver observer;
 	auto monitor = std::make_unique<VolumeEventMonitor>();
 	monitor->start();
-	ASSERT_TRUE(gate.reached.try_acquire_for(std::chrono::seconds(10)));
+	ASSERT_TRUE(gate.waitUntilReached());
 	EXPECT_EQ(monitor->mountedVolumes().size(), 1u);
 	Texts paths;
 	EXPECT_EQ(monitor->listMountPoints(paths), 3u);
@@ -73,7 +80,7 @@ TEST(MonitorLifetime, ADriveThatDoesNotAnswerDelaysTheEndByItsOwnQueryAlone)
 	const auto post = counted("PostMessageW", &PostMessageW);
 	std::jthread destroyer([&] { monitor.reset(); });
 	ASSERT_TRUE(isTrueSoon([&] { return post.calls() > 0; }));
-	gate.opened.release();
+	gate.open();
 	destroyer.join();
 	EXPECT_EQ(computer.queries, 2) << "the last drive is not asked any more";
 	EXPECT_EQ(observer.events(), Texts{"+N:"});

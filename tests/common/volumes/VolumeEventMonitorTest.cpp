@@ -103,6 +103,9 @@ TEST(VolumeEventMonitor, ASecondOneIsInertAndHarmsNothing)
 	listening.computer.fail("FindFirstVolumeW", 5);
 	Texts paths;
 	EXPECT_EQ(third->listMountPoints(paths), 0u);
+	Kiln::Logger::instance().component("VolumeEventMonitor")->setLevel(Kiln::LogLevel::error);
+	listening.computer.fail("FindFirstVolumeW", 5);
+	EXPECT_EQ(third->listMountPoints(paths), 0u) << "no second warning";
 	EXPECT_EQ(listening.log.text(), "Failed to register WNDCLASS for monitoring volume events\n"
 									"Failed to list attached volumes: FindFirstVolume() failed with error code 5\n");
 	third.reset();
@@ -114,6 +117,10 @@ TEST(VolumeEventMonitor, ItsWindowTakesNoOtherMessages)
 	Listening listening({system});
 	const HWND window = monitorWindow();
 	EXPECT_FALSE(IsWindowVisible(window));
+	WNDCLASSEXW description{};
+	description.cbSize = sizeof description;
+	EXPECT_TRUE(GetClassInfoExW(GetModuleHandleW(nullptr), L"VolumeEventMonitor", &description));
+	EXPECT_EQ(description.style, 0x23u);
 	for (const UINT message : {WM_NULL, WM_CLOSE, WM_GETTEXT, WM_USER + 199, WM_USER + 201, 0x4C8})
 	{
 		EXPECT_EQ(SendMessageW(window, message, 0, 0), 1) << message;
@@ -121,6 +128,13 @@ TEST(VolumeEventMonitor, ItsWindowTakesNoOtherMessages)
 	EXPECT_TRUE(IsWindow(window));
 	EXPECT_EQ(listening.observer.events(), Texts{"+C:"});
 	EXPECT_EQ(listening.log.text(), "");
+
+	// A window without a monitor gets its first message before it is made, and so is not made.
+	EXPECT_EQ(CreateWindowExW(0, L"VolumeEventMonitor", nullptr, WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
+				  GetModuleHandleW(nullptr), nullptr),
+		nullptr);
+	EXPECT_TRUE(
+		listening.log.text().starts_with("Ignoring message of type 129; no valid VolumeEventMonitor instance\n"));
 }
 
 TEST(VolumeEventMonitor, ObserversThatThrowEndNothing)
