@@ -6,9 +6,11 @@
 #include "Color/LookTable.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <functional>
 #include <random>
-#include <tuple>
+#include <utility>
 
 using FColor3 = std::array<double, 3>;
 
@@ -45,7 +47,7 @@ inline FColor3 controlled(const LookColor::FGrading& grading, const FColor3& col
 	return result;
 }
 
-/** The table alone: the six tetrahedra one by one. */
+/** The table alone. Through the cube the way leads along the axes, that of the biggest share first. */
 inline FColor3 looked(const LookColor::FLookTable& table, FColor3 color)
 {
 	const auto place = [](double value, double begin, double end, size_t size)
@@ -64,34 +66,37 @@ inline FColor3 looked(const LookColor::FLookTable& table, FColor3 color)
 	{
 		return color;
 	}
-	size_t at[3];
-	double share[3];
-	for (size_t i = 0; i < 3; ++i)
+	std::array<std::pair<double, size_t>, 3> ways;
+	size_t index = 0;
+	for (size_t i = 0, stride = 1; i < 3; ++i, stride *= table.CubeSize)
 	{
-		std::tie(at[i], share[i]) = place(color[i], table.CubeDomain.Begin[i], table.CubeDomain.End[i], table.CubeSize);
+		const auto [at, share] = place(color[i], table.CubeDomain.Begin[i], table.CubeDomain.End[i], table.CubeSize);
+		index += at * stride;
+		ways[i] = {share, stride};
 	}
-	const auto [r, g, b] = share;
-	const auto mixed = [&](double w0, size_t c1, double w1, size_t c2, double w2, double w7)
+	std::sort(ways.begin(), ways.end(), std::greater());
+	const LookColor::FTriple* sample = &table.Cube[index];
+	FColor3 sum{(*sample)[0], (*sample)[1], (*sample)[2]};
+	for (const auto& [share, stride] : ways)
 	{
-		const auto sample = [&](size_t corner, size_t i)
-		{
-			const size_t index = at[0] + (corner & 1) + table.CubeSize * (at[1] + (corner >> 1 & 1)) +
-								 table.CubeSize * table.CubeSize * (at[2] + (corner >> 2));
-			return double(table.Cube[index][i]);
-		};
-		FColor3 sum;
 		for (size_t i = 0; i < 3; ++i)
 		{
-			sum[i] = w0 * sample(0, i) + w1 * sample(c1, i) + w2 * sample(c2, i) + w7 * sample(7, i);
+			sum[i] += share * (double(sample[stride][i]) - (*sample)[i]);
 		}
-		return sum;
-	};
-	return r > g   ? g > b   ? mixed(1 - r, 1, r - g, 3, g - b, b)
-					 : r > b ? mixed(1 - r, 1, r - b, 5, b - g, g)
-							 : mixed(1 - b, 4, b - r, 5, r - g, g)
-			 : b > g ? mixed(1 - b, 4, b - g, 6, g - r, r)
-		   : b > r ? mixed(1 - g, 2, g - b, 6, b - r, r)
-				   : mixed(1 - g, 2, g - r, 3, r - b, b);
+		sample += stride;
+	}
+	return sum;
+}
+
+/** The most that a channel differs between two colors as displays show them, in steps of 8 bits. */
+inline double stepsBetween(const FColor3& one, const FColor3& other)
+{
+	double most = 0;
+	for (size_t i = 0; i < 3; ++i)
+	{
+		most = std::max(most, 255 * std::abs(std::clamp(one[i], 0.0, 1.0) - std::clamp(other[i], 0.0, 1.0)));
+	}
+	return most;
 }
 
 /** Controls within what the window's rows offer; three in four looks leave saturation alone. */

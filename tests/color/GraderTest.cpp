@@ -26,11 +26,10 @@ double worstStep(const LookColor::IFrameGrader& grader, const std::vector<uint8_
 	double worst = 0;
 	for (size_t at = 0; at < pixels.size(); at += 4)
 	{
-		const FColor3 wanted = formulas(FColor3{pixels[at] / 255.0, pixels[at + 1] / 255.0, pixels[at + 2] / 255.0});
-		for (size_t i = 0; i < 3; ++i)
-		{
-			worst = std::max(worst, std::abs(graded[at + i] - 255 * std::clamp(wanted[i], 0.0, 1.0)));
-		}
+		const auto color = [at](const std::vector<uint8_t>& of) {
+			return FColor3{of[at] / 255.0, of[at + 1] / 255.0, of[at + 2] / 255.0};
+		};
+		worst = std::max(worst, stepsBetween(formulas(color(pixels)), color(graded)));
 		worst = graded[at + 3] == pixels[at + 3] ? worst : 255;
 	}
 	return worst;

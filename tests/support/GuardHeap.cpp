@@ -15,7 +15,7 @@
 namespace
 {
 constexpr std::size_t PageSize = 4096;
-constexpr std::size_t SmallestAlignment = 16;
+constexpr std::size_t Alignment = 16;
 constexpr std::uint64_t Mark = 0x6b696c6e68656170;
 constexpr char Filler = '\xA5';
 constexpr long MostGuarded = 2000;
@@ -57,20 +57,18 @@ char* takePages(std::size_t size)
 	return fits ? static_cast<char*>(VirtualAlloc(range + begin, size, MEM_COMMIT, PAGE_READWRITE)) : nullptr;
 }
 
-void* place(char* room, std::size_t roomSize, std::size_t size, std::size_t alignment, bool isGuarded)
+void* place(char* room, std::size_t roomSize, std::size_t size, bool isGuarded)
 {
-	const std::size_t tail = isGuarded ? 0 : SmallestAlignment;
-	char* const object = roundDown(room + roomSize - tail - size, alignment);
+	char* const object = roundDown(room + roomSize - (isGuarded ? 0 : Alignment) - size, Alignment);
 	*headOf(object) = {room, room + roomSize, size, isGuarded, Mark};
 	std::fill(object + size, room + roomSize, Filler);
 	++live;
 	return object;
 }
 
-void* take(std::size_t size, std::size_t alignment)
+void* take(std::size_t size)
 {
-	alignment = std::max(alignment, SmallestAlignment);
-	const std::size_t roomSize = size + sizeof(Head) + 2 * alignment + SmallestAlignment;
+	const std::size_t roomSize = size + sizeof(Head) + 3 * Alignment;
 	if (roomSize < size)
 	{
 		throw std::bad_alloc();
@@ -80,13 +78,13 @@ void* take(std::size_t size, std::size_t alignment)
 		const std::size_t pages = (roomSize + PageSize - 1) / PageSize * PageSize;
 		if (char* const room = takePages(pages))
 		{
-			return place(room, pages, size, alignment, true);
+			return place(room, pages, size, true);
 		}
 	}
 	--guarded;
 	if (auto* const room = static_cast<char*>(std::malloc(roomSize)))
 	{
-		return place(room, roomSize, size, alignment, false);
+		return place(room, roomSize, size, false);
 	}
 	throw std::bad_alloc();
 }
@@ -123,15 +121,10 @@ long liveHeapObjects()
 	return live;
 }
 
-// The forms for arrays and the ones that do not throw call these.
+// The forms for arrays and the ones that do not throw call these. Nothing is aligned beyond them.
 void* operator new(std::size_t size)
 {
-	return take(size, SmallestAlignment);
-}
-
-void* operator new(std::size_t size, std::align_val_t alignment)
-{
-	return take(size, static_cast<std::size_t>(alignment));
+	return take(size);
 }
 
 void operator delete(void* object) noexcept
@@ -140,16 +133,6 @@ void operator delete(void* object) noexcept
 }
 
 void operator delete(void* object, std::size_t) noexcept
-{
-	give(object);
-}
-
-void operator delete(void* object, std::align_val_t) noexcept
-{
-	give(object);
-}
-
-void operator delete(void* object, std::size_t, std::align_val_t) noexcept
 {
 	give(object);
 }

@@ -41,6 +41,29 @@ TEST(ListFiles, NamesTheStepThatFails)
 	expectError("exists", folder.path);
 }
 
+TEST(ListFiles, NamesTheStepThatFailsOnTheWay)
+{
+	const TemporaryFolder folder;
+	folder.file("a");
+	// Below the call that lists, which is looked up at run time: it gives the entries once, then access is denied.
+	using Query = long(HANDLE, HANDLE, void*, void*, void*, void*, ULONG, int, BOOLEAN, void*, BOOLEAN);
+	auto* const real = reinterpret_cast<Query*>(
+		reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtQueryDirectoryFile")));
+	const ImportOverride denied(
+		"NtQueryDirectoryFile", real,
+		[real, given = false](HANDLE handle, HANDLE event, void* apc, void* context, void* status, void* buffer,
+			ULONG size, int kind, BOOLEAN single, void* mask, BOOLEAN restart) mutable
+		{
+			const long done =
+				given ? static_cast<long>(0xC0000022)
+					  : real(handle, event, apc, context, status, buffer, size, kind, single, mask, restart);
+			given = given || done == 0;
+			return done;
+		},
+		GetModuleHandleW(L"kernelbase.dll"));
+	expectError("directory_iterator::operator++", folder.path);
+}
+
 TEST(CreateFolders, WithAllAboveThem)
 {
 	const TemporaryFolder folder;
