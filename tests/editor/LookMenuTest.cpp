@@ -253,24 +253,15 @@ TEST_F(LookMenu, AMissingSectionOrMenuIsFatal)
 	EXPECT_EXIT(WithoutMenu(), ExitedWithCode(3), HasSubstr("Assertion failed: Menu "));
 }
 
-TEST_F(LookMenu, GoesWithTheModuleButForTheWidgetsMenu)
-{
-	StartWithPanes();
-	OpenLookMenu();
-	Unload();
-	EXPECT_EQ(Text(), "View\n  [x] Realtime\n");
-	UToolMenus& Menus = *UToolMenus::Get();
-	EXPECT_EQ(Menus.FindMenu(SLevelViewport::ViewMenuName)->FindSection("ColorManagement"), nullptr);
-	EXPECT_TRUE(Menus.IsMenuRegistered(WidgetMenu));
-}
-
-TEST_F(LookMenu, JoinsASectionThatAnotherExtensionMade)
+TEST_F(LookMenu, JoinsAnothersSectionAndGoesWithTheModuleButForTheWidgetsMenu)
 {
 	Options.PluginFolders = {TEXT(EDITOR_TEST_PLUGINS) TEXT("/../others"), TEXT(EDITOR_TEST_PLUGINS)};
 	StartWithPanes();
 	Driver.Menus().OpenViewMenu();
 	const std::string Theirs = "Color Tools\n  [ ] False Colors\n";
 	EXPECT_EQ(Text(), Theirs + "  TonalithEditorModule.TNLDisplaySubMenu_Label >\nView\n  [x] Realtime\n");
+	Driver.Menus().OpenSubMenu(TEXT("TNLDisplaySubMenu"));
 	Unload();
 	EXPECT_EQ(Text(), Theirs + "View\n  [x] Realtime\n");
+	EXPECT_TRUE(UToolMenus::Get()->IsMenuRegistered(WidgetMenu));
 }
