@@ -56,11 +56,3 @@ TEST(Baker, KeepsThePictureWithinTwoSteps)
 	}
 	EXPECT_LE(worstStep(draw, drawControls(draw), nullptr, 65), 2.0);
 }
-
-TEST(Baker, CurvesHelpWhereSaturationMixesChannelsToo)
-{
-	LookColor::FGrading dark;
-	dark[0].Saturation = 0.9;
-	dark[1].Contrast = 0.5;
-	EXPECT_FALSE(LookColor::Baked(dark, nullptr, 17).Shaper.empty());
-}

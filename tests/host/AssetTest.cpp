@@ -34,22 +34,6 @@ TEST_F(Assets, LieInTheContentFolder)
 	EXPECT_FALSE(FAssetData(nullptr).IsValid());
 }
 
-TEST_F(Assets, ViewportsReadBackTheChartThatWasDrawn)
-{
-	Driver.Start(Options);
-	Driver.OpenPane(TEXT("A"));
-	Driver.ResizePane(TEXT("A"), {16, 8});
-	const FPicture Picture = Driver.TakePicture();
-	ASSERT_EQ(Picture.Size, FIntPoint(16, 8));
-	ASSERT_EQ(Picture.Pixels.Num(), 16 * 8);
-	// Red grows and blue falls to the right, green grows downwards; the ramp ends in white.
-	EXPECT_EQ(Picture.Pixels[0], FColor(0, 0, 255, 0));
-	EXPECT_EQ(Picture.Pixels[15], FColor(255, 0, 0, 0));
-	EXPECT_EQ(Picture.Pixels[5 * 16], FColor(0, 182, 255, 0));
-	EXPECT_EQ(Picture.Pixels[7 * 16], FColor(0, 0, 0, 0));
-	EXPECT_EQ(Picture.Pixels[7 * 16 + 15], FColor(255, 255, 255, 0));
-}
-
 TEST_F(Assets, CollectionsLeaveWhatCanBeReached)
 {
 	Driver.Start(Options);

@@ -82,33 +82,6 @@ TEST_F(BadInput, StoriesNameFileLineAndColumn)
 	ExpectReason(L"missing.story", "missing.story: cannot be read");
 }
 
-TEST_F(BadInput, PluginsNameTheFileAndWhatIsWrong)
-{
-	const auto ExpectRefusal = [this](const char* File, const char* Text, const std::string& Reason)
-	{
-		Write(File, Text);
-		ExpectReason(L"start.story", Reason);
-	};
-	const char* const Plugin = "plugins/Bad/Bad.uplugin";
-	const char* const List = "plugins/Bad/Binaries/Win64/UnrealEditor.modules";
-	ExpectRefusal(Plugin, R"({"Modules": [,]})", "Bad.uplugin: no JSON object with \"Modules\"");
-	ExpectRefusal(Plugin, R"({"Modules": [{"Type": "Editor"}]})", "Bad.uplugin: a module without \"Name\"");
-	ExpectRefusal(Plugin, R"({"Modules": [{"Name": "Bad", "Type": "Editor", "LoadingPhase": "Default"}]})",
-		"UnrealEditor.modules: cannot be read");
-	ExpectRefusal(List, R"({"Modules": {}, "Extra": 1})", "UnrealEditor.modules: unknown key \"Extra\"");
-	ExpectRefusal(List, R"({"BuildId": "x", "Modules": {"Bad": "UnrealEditor-Bad.dll"}})",
-		"UnrealEditor-Bad.dll: the library file is missing");
-	ExpectRefusal("plugins/Bad/Binaries/Win64/UnrealEditor-Bad.dll", "no library",
-		"UnrealEditor-Bad.dll: the operating system could not load the library");
-
-	// Any library without the export will do.
-	wchar_t System[MAX_PATH];
-	GetSystemDirectoryW(System, MAX_PATH);
-	fs::remove(Folder / L"plugins/Bad/Binaries/Win64/UnrealEditor-Bad.dll");
-	fs::copy_file(fs::path(System) / L"version.dll", Folder / L"plugins/Bad/Binaries/Win64/UnrealEditor-Bad.dll");
-	ExpectReason(L"start.story", "UnrealEditor-Bad.dll: the library does not export InitializeModule");
-}
-
 TEST_F(BadInput, ThePageOfAStoryNeedsNoOtherFile)
 {
 	Write("page.story",

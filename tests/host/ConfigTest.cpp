@@ -83,12 +83,3 @@ TEST_F(Config, WhatTheFileHoldsIsThereWhenTheModuleStarts)
 	EXPECT_EQ(Settings.Entries[4].Object.Get(), nullptr);
 	EXPECT_TRUE(Settings.Entries[4].Name.IsNone());
 }
-
-TEST_F(Config, AFileThatCannotBeWrittenIsReported)
-{
-	UProbeSettings& Settings = StartWith("");
-	std::filesystem::remove(File());
-	std::filesystem::create_directories(File());
-	Settings.SaveConfig();
-	EXPECT_THAT(TakeLog("LogConfig"), testing::ElementsAre(testing::HasSubstr("could not be written")));
-}

@@ -4,7 +4,6 @@
 #include <functional>
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace
 {
@@ -22,12 +21,10 @@ struct FListener : TSharedFromThis<FListener>
 		{
 			Then();
 		}
-		Calls.back() += Suffix;
 	}
 
 	FLines& Calls;
 	std::string Name;
-	std::string Suffix;
 	std::function<void()> Then;
 };
 
@@ -74,34 +71,4 @@ TEST_F(FDelegates, ChangesDuringABroadcast)
 	};
 	EXPECT_THAT(Broadcast(), ElementsAre("C", "A", "A")) << "the inner broadcast and the rest of the outer one";
 	EXPECT_EQ(Broadcast().size(), 21u);
-}
-
-TEST_F(FDelegates, RemoveAllCountsTheDeadWhileIdle)
-{
-	TSharedPtr<FListener> Mortal = MakeShared<FListener>(Calls, "mortal");
-	Event.AddRaw(&A, &FListener::OnEvent);
-	Event.AddRaw(&B, &FListener::OnEvent);
-	Event.Add(FOnEvent::FDelegate::CreateSP(Mortal.ToSharedRef(), &FListener::OnEvent));
-	Event.AddRaw(&C, &FListener::OnEvent);
-	Mortal.Reset();
-	EXPECT_EQ(Event.RemoveAll(&A), 2);
-	EXPECT_THAT(Broadcast(), ElementsAre("B", "C")) << "the last entries fill the holes";
-	C.Then = [&]
-	{
-		EXPECT_EQ(Event.RemoveAll(&C), 1);
-		EXPECT_TRUE(Event.IsBoundToObject(&B) && !Event.IsBoundToObject(&C));
-	};
-	Event.AddRaw(&A, &FListener::OnEvent);
-	EXPECT_THAT(Broadcast(), ElementsAre("A", "B", "C"));
-	EXPECT_EQ(Event.RemoveAll(nullptr), 0);
-}
-
-TEST_F(FDelegates, ACallMayDropItsObject)
-{
-	TSharedPtr<FListener> Mortal = MakeShared<FListener>(Calls, "mortal");
-	Event.Add(FOnEvent::FDelegate::CreateSP(Mortal.Get(), &FListener::OnEvent));
-	Mortal->Suffix = " to the end";
-	Mortal->Then = [&] { Mortal.Reset(); };
-	EXPECT_THAT(Broadcast(), ElementsAre("mortal to the end"));
-	EXPECT_THAT(Broadcast(), IsEmpty());
 }

@@ -50,19 +50,6 @@ TEST_F(Session, PluginSeesStartAndNormalExitInOrder)
 		FLines(Trace.end() - 2, Trace.end()), ElementsAre("shut down module Probe", "shut down module ToolMenus"));
 }
 
-TEST_F(Session, UnloadedModuleCanBeLoadedAgain)
-{
-	Driver.Start(Options);
-	TakeProbe();
-	Driver.UnloadModule(TEXT("Probe"));
-	EXPECT_FALSE(FModuleManager::Get().UnloadModule("Probe"));
-	EXPECT_THAT(TakeProbe(), ElementsAre("shut-down: editor yes, objects yes, AssetTools yes"));
-	EXPECT_EQ(FModuleManager::Get().GetModule("Probe"), nullptr);
-	FModuleManager::Get().LoadModuleChecked("Probe");
-	EXPECT_THAT(TakeProbe(),
-		ElementsAre("start-up: editor yes, objects yes, AssetTools yes", "self loaded yes, setting entries 0"));
-}
-
 TEST_F(Session, PaneEventsComeInTheEnginesOrder)
 {
 	Driver.Start(Options);

@@ -74,18 +74,4 @@ TEST(EjectDrive, StepsEndAtTheFirstThatFailsAndTheLockIsTriedTwentyTimes)
 	}
 }
 
-TEST(EjectDrive, WithoutADevice)
-{
-	EXPECT_EQ(Kiln::ejectDrive("\\\\server\\share"), -256);
-	const auto refused = failing("CreateFileW", &CreateFileW, ERROR_ACCESS_DENIED, INVALID_HANDLE_VALUE);
-	EXPECT_EQ(Kiln::ejectDrive("C:"), 0);
-	const ImportOverride network("GetDriveTypeW", &GetDriveTypeW,
-		[](const wchar_t* root)
-		{
-			EXPECT_STREQ(root, L"N:\\");
-			return static_cast<UINT>(DRIVE_REMOTE);
-		});
-	EXPECT_EQ(Kiln::ejectDrive("N:\\x"), 0);
-	EXPECT_EQ(refused.calls(), 1);
-}
 } // namespace

@@ -113,16 +113,6 @@ TEST(RunProgram, FillsTheRequestByItsFlags)
 	EXPECT_FALSE(FileActionHelper::runProgram("x", "", nul, 0));
 }
 
-TEST(RunProgram, ForReal)
-{
-	const TemporaryFolder folder;
-	wchar_t program[MAX_PATH];
-	GetModuleFileNameW(nullptr, program, MAX_PATH);
-	const std::string parameters = "--gtest_filter=None.* \"--gtest_output=json:" + folder.path + "\\out file.json\"";
-	EXPECT_TRUE(FileActionHelper::runProgram(Kiln::toUtf8(program), parameters, "", FileActionHelper::WaitForEnd));
-	EXPECT_EQ(Kiln::listFiles(folder.path), std::vector<std::string>{"out file.json"});
-}
-
 TEST(RecycleBin, TakesFilesAndFolders)
 {
 	ASSERT_TRUE(std::getenv("XDG_DATA_HOME"));

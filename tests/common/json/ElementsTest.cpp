@@ -69,17 +69,6 @@ TEST(Elements, NullBecomesWhatIsAskedFor)
 	EXPECT_THROW(std::as_const(root)["list"][3], json::Exception);
 }
 
-TEST(Elements, ValuesConvertToTheirKindAndToNoOther)
-{
-	static_assert(!std::is_constructible_v<json::Boolean, const char*>);
-	static_assert(!std::is_constructible_v<json::Boolean, int>);
-	EXPECT_EQ(UnknownElement("text"), json::String("text"));
-	const json::String string = "text";
-	EXPECT_TRUE(string == "text" && !(string == "Text"));
-	const json::Number number = 5;
-	EXPECT_TRUE(number == 5 && number + 1 == 6 && number == json::Number(5, 3) && UnknownElement(5) == number);
-}
-
 TEST(Object, KeepsOrderThroughInsertAndErase)
 {
 	const auto member = [](const char* name) { return json::Object::Member(name, json::Number(1)); };
@@ -183,18 +172,4 @@ TEST(Array, GrowsWhereItMayAndThrowsWhereNot)
 	EXPECT_TRUE(array.Empty() && array.Begin() == array.End());
 }
 
-TEST(Elements, CopiesAreDeepAndWhatWasMovedIsNull)
-{
-	for (unsigned seed = 0; seed < 30; ++seed)
-	{
-		UnknownElement original = RandomTree(seed).makeObject(4);
-		UnknownElement copy = original;
-		EXPECT_EQ(copy, original);
-		copy["and one more"]["inside"] = json::Number(1);
-		EXPECT_FALSE(copy == original);
-		const UnknownElement moved = std::move(original);
-		EXPECT_EQ(original, json::Null());
-		EXPECT_EQ(moved, UnknownElement(RandomTree(seed).makeObject(4)));
-	}
-}
 } // namespace

@@ -51,11 +51,4 @@ TEST(FileChoice, FollowsItsRules)
 	}
 }
 
-TEST(FileChoice, TakesOddNames)
-{
-	EXPECT_EQ(chooseFile({"fr.json", "table_fr.json"}, "", "fr").file, "fr.json");
-	EXPECT_EQ(chooseFile({"table_.json", "table_en-US.json"}, "table", "").match, Match::exact);
-	EXPECT_EQ(chooseFile({"fr.json", "xtable_fr.json", "table_fr.txt", "tablefr.json"}, "table", "fr").file, "");
-	EXPECT_EQ(chooseFile({"table_fr.json"}, "table", std::string(10000, '-')).match, Match::none);
-}
 } // namespace

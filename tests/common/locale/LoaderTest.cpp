@@ -107,11 +107,4 @@ TEST(FolderLoader, LoadsTheFileThatServes)
 	EXPECT_EQ(loader.error(), "") << "no file serves";
 }
 
-TEST(FolderLoader, WithoutAFolderHasNoStrings)
-{
-	const TemporaryFolder folder;
-	StringTable table;
-	EXPECT_EQ(FolderLoader(folder / "missing", "table").load(table, "fr"), StringTable());
-	EXPECT_THROW(FolderLoader(folder.file("file"), "table").choose("fr"), boost::filesystem::filesystem_error);
-}
 } // namespace

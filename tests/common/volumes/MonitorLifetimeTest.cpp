@@ -159,34 +159,4 @@ TEST(MonitorLifetime, ComIsLeftOnceOnTheThreadThatDestroys)
 	EXPECT_EQ(threads, std::vector<std::thread::id>(2, std::this_thread::get_id()));
 }
 
-TEST(MonitorLifetime, HundredsOfMonitorsLeaveNothingBehind)
-{
-	const FakeComputer computer({system, share});
-	const auto watch = watchBelow();
-	const auto deregister = counted("SHChangeNotifyDeregister", &SHChangeNotifyDeregister);
-	const auto destroy = counted("DestroyWindow", &DestroyWindow);
-	constexpr int Cycles = 500;
-	constexpr int WarmUp = 50;
-	DWORD handles[2] = {};
-	long objects = 0;
-	for (int cycle = 0; cycle < WarmUp + Cycles; ++cycle)
-	{
-		if (cycle == WarmUp)
-		{
-			GetProcessHandleCount(GetCurrentProcess(), &handles[0]);
-			objects = liveHeapObjects();
-		}
-		RecordingObserver observer;
-		VolumeEventMonitor monitor;
-		monitor.addObserver(&observer);
-		monitor.start();
-		// Every other one is destroyed wherever it is.
-		ASSERT_TRUE(cycle % 2 || observer.waitFor(2));
-	}
-	GetProcessHandleCount(GetCurrentProcess(), &handles[1]);
-	EXPECT_LE(handles[1], handles[0]);
-	EXPECT_EQ(liveHeapObjects(), objects);
-	EXPECT_EQ(destroy.calls(), WarmUp + Cycles);
-	EXPECT_EQ(watch.calls(), deregister.calls());
-}
 } // namespace
