@@ -13,7 +13,7 @@ namespace
 {
 constexpr std::uint32_t Version = 1;
 
-struct FHeader
+struct FLookTableHeader
 {
 	std::uint32_t Version;
 	std::uint32_t ShaperSize;
@@ -21,7 +21,7 @@ struct FHeader
 	FTableDomain ShaperDomain;
 	FTableDomain CubeDomain;
 };
-static_assert(sizeof(FHeader) == 60 && std::endian::native == std::endian::little);
+static_assert(sizeof(FLookTableHeader) == 60 && std::endian::native == std::endian::little);
 
 constexpr int HalfFractionBits = 10;
 constexpr int FractionBits = 23;
@@ -81,7 +81,7 @@ bool IsSize(std::uint32_t Size, std::size_t Most)
 
 std::vector<std::uint8_t> BytesOf(const FLookTable& Table)
 {
-	const FHeader Header{Version, static_cast<std::uint32_t>(Table.Shaper.size()),
+	const FLookTableHeader Header{Version, static_cast<std::uint32_t>(Table.Shaper.size()),
 		static_cast<std::uint32_t>(Table.CubeSize), Table.ShaperDomain, Table.CubeDomain};
 	std::vector<std::uint8_t> Bytes(
 		sizeof Header + (Table.Shaper.size() + Table.Cube.size()) * 3 * sizeof(std::uint16_t));
@@ -104,7 +104,7 @@ std::vector<std::uint8_t> BytesOf(const FLookTable& Table)
 
 std::optional<FLookTable> TableFrom(std::span<const std::uint8_t> Bytes)
 {
-	FHeader Header;
+	FLookTableHeader Header;
 	if (Bytes.size() < sizeof Header)
 	{
 		return std::nullopt;
