@@ -68,6 +68,8 @@ TEST_F(LookWindow, EditsShowRightOfTheLineAndInEveryPaneAndAreSaved)
 		}
 		Driver.Windows().MoveSlider(TEXT("Warm"), 0.5f);
 		EXPECT_TRUE(IsSamePicture(Driver.Windows().Picture(TEXT("Warm")), Half));
+		Driver.Windows().MoveSlider(TEXT("Warm"), 1.0f);
+		EXPECT_TRUE(IsSamePicture(Driver.Windows().Picture(TEXT("Warm")), Plain));
 		Driver.Windows().MoveSlider(TEXT("Warm"), 0.0f);
 		EXPECT_TRUE(IsSamePicture(Driver.Windows().Picture(TEXT("Warm")), Graded));
 		Driver.Windows().UndoEdit(TEXT("Warm"), Name);
