@@ -17,7 +17,7 @@ protected:
 	BadInput() : Folder(fs::temp_directory_path() / (L"tonalith-bad-" + std::to_wstring(GetCurrentProcessId())))
 	{
 		fs::remove_all(Folder);
-		fs::create_directories(Folder / L"plugins/Bad/Binaries/Win64");
+		fs::create_directories(Folder / L"plugins");
 		Write("start.story", "start\nquit\n");
 	}
 

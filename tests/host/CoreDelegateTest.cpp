@@ -10,7 +10,7 @@ namespace
 DECLARE_MULTICAST_DELEGATE_OneParam(FOnEvent, int32);
 
 /** Writes its name down when it is called, then does what it is told to. */
-struct FListener : TSharedFromThis<FListener>
+struct FListener
 {
 	FListener(FLines& InCalls, std::string InName) : Calls(InCalls), Name(std::move(InName)) {}
 

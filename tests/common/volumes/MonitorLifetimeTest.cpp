@@ -1,5 +1,4 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-#include "GuardHeap.h"
 #include "Monitoring.h"
 
 namespace
