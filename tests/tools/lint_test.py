@@ -22,6 +22,7 @@ CLEAN = {
 	".clang-format": "{UseTab: Always, TabWidth: 4, IndentWidth: 4, BreakBeforeBraces: Allman,"
 		" AllowShortFunctionsOnASingleLine: None}\n",
 	"CMakeLists.txt": f"# {MARK}\nset_target_properties(boost_filesystem PROPERTIES UNITY_BUILD ON)\n",
+	"tests/CMakeLists.txt": f"# {MARK}\nset(CMAKE_UNITY_BUILD ON)\n",
 	"Plugins/Look/Look.uplugin": json.dumps(PLUGIN, indent="\t"),
 	"Plugins/Look/Source/Two.cpp": SOURCE,
 	"Plugins/Look/Source/LookEditor/LookEditor.Build.cs": f"// {MARK}\n// Needs \"Look\".\n",
@@ -77,8 +78,8 @@ class LintTest(unittest.TestCase):
 			(source, SOURCE + "#include <windows.h>\n", f"{source}:6: a platform header stands between"),
 			(source, SOURCE + ALLOW + HIDE + "\n#include <shlobj.h>\n", f"{source}:10: a platform header stands between"),
 			("common/url/src/Two.cpp", SOURCE + "#include <shlobj.h>\n", "common/url/src/Two.cpp:6: the library reaches"),
-			("CMakeLists.txt", f"# {MARK}\nset(CMAKE_UNITY_BUILD ON)\n", "CMakeLists.txt:2: own files are compiled"),
-			("CMakePresets.json", '{\n"CMAKE_UNITY_BUILD": true}\n', "CMakePresets.json:2: own files are compiled"),
+			("CMakeLists.txt", f"# {MARK}\nset(CMAKE_UNITY_BUILD ON)\n", "CMakeLists.txt:2: files of product and host are compiled"),
+			("CMakePresets.json", '{\n"CMAKE_UNITY_BUILD": true}\n', "CMakePresets.json:2: files of product and host are compiled"),
 			("CMakeLists.txt", f"# {MARK}\ntarget_precompile_headers(x y)\n", "CMakeLists.txt:2: the product's files"),
 			(descriptor, "{\n,", f"{descriptor}:2: no JSON"),
 			(descriptor, "[]", f"{descriptor}:1: a descriptor is an object"),

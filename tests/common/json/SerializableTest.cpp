@@ -9,7 +9,7 @@ namespace
 using Kiln::SerializableJsonObject;
 
 /** What was flushed. */
-std::string textOf(const Kiln::Serializable& object)
+std::string serialized(const Kiln::Serializable& object)
 {
 	struct Buffer : std::stringbuf
 	{
@@ -34,9 +34,9 @@ TEST(Serializable, AnObjectThatWritesNothingIsNotSerialised)
 			return false;
 		}
 	};
-	EXPECT_EQ(textOf(Kiln::Serializable()), "not serialised");
-	EXPECT_EQ(textOf(Failing()), "not serialised");
-	EXPECT_EQ(textOf(SerializableJsonObject()), "{}");
+	EXPECT_EQ(serialized(Kiln::Serializable()), "not serialised");
+	EXPECT_EQ(serialized(Failing()), "not serialised");
+	EXPECT_EQ(serialized(SerializableJsonObject()), "{}");
 }
 
 TEST(SerializableJsonObject, TakesMembersOverAndGivesDeepCopies)
@@ -52,7 +52,7 @@ TEST(SerializableJsonObject, TakesMembersOverAndGivesDeepCopies)
 	EXPECT_EQ(out, whole);
 	out["second"]["inside"] = json::Null();
 	EXPECT_TRUE(object.toJson(object)) << "given itself";
-	EXPECT_EQ(textOf(object), "{\n\t\"second\" : {\n\t\t\"inside\" : \"a\"\n\t}\n}");
+	EXPECT_EQ(serialized(object), "{\n\t\"second\" : {\n\t\t\"inside\" : \"a\"\n\t}\n}");
 	EXPECT_TRUE(object.toJson(object["second"])) << "given its own part";
 	EXPECT_EQ(object["second"], whole);
 }

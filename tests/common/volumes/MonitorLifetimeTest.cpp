@@ -5,9 +5,9 @@ namespace
 {
 using Kiln::VolumeEventMonitor;
 
-const FakeVolume system{.paths = {L"C:\\"}, .device = FakeDevice{"s"}};
-const FakeVolume share{.paths = {L"N:\\"}, .driveType = DRIVE_REMOTE};
-const FakeVolume other{.paths = {L"Z:\\"}, .driveType = DRIVE_REMOTE};
+const FakeVolume identified{.paths = {L"C:\\"}, .device = FakeDevice{"s"}};
+const FakeVolume shareN{.paths = {L"N:\\"}, .driveType = DRIVE_REMOTE};
+const FakeVolume shareZ{.paths = {L"Z:\\"}, .driveType = DRIVE_REMOTE};
 
 /** Where a thread waits until it is told to go on. */
 class Gate
@@ -33,7 +33,7 @@ private:
 
 TEST(MonitorLifetime, TheThreadEndsWhereverItIs)
 {
-	const FakeComputer computer({system});
+	const FakeComputer computer({identified});
 	/** Destroys a monitor while its thread is in a function. */
 	const auto destroyIn = [](const char* name, auto function)
 	{
@@ -58,7 +58,7 @@ TEST(MonitorLifetime, TheThreadEndsWhereverItIs)
 
 TEST(MonitorLifetime, ADriveThatDoesNotAnswerDelaysTheEndByItsOwnQueryAlone)
 {
-	FakeComputer computer({system, share, other});
+	FakeComputer computer({identified, shareN, shareZ});
 	Gate gate;
 	computer.onQuery = [&](const std::wstring& root)
 	{
@@ -94,7 +94,7 @@ TEST(MonitorLifetime, AFullMessageQueueDoesNotKeepTheThread)
 			SetLastError(ERROR_NOT_ENOUGH_QUOTA);
 			return ++refusals > 3 && real(window, message, first, second);
 		});
-	Listening listening({system});
+	Listening listening({identified});
 	SendMessageW(monitorWindow(), WM_NULL, 0, 0);
 	listening.monitor.reset();
 	EXPECT_EQ(refusals, 4);
@@ -104,7 +104,7 @@ TEST(MonitorLifetime, EndsInTheMidstOfAStormWhileObserversComeAndGo)
 {
 	for (int round = 0; round < 5; ++round)
 	{
-		Listening listening({system, share});
+		Listening listening({identified, shareN});
 		auto visitors = repeatOnThreads(2,
 			[&]
 			{
@@ -129,7 +129,7 @@ TEST(MonitorLifetime, EndsInTheMidstOfAStormWhileObserversComeAndGo)
 
 TEST(MonitorLifetime, AThreadThatIsGoneIsNotWaitedFor)
 {
-	Listening listening({system});
+	Listening listening({identified});
 	const DWORD id = GetWindowThreadProcessId(monitorWindow(), nullptr);
 	SendMessageW(monitorWindow(), WM_NULL, 0, 0);
 	// As at the end of the process, whose other threads go first.
@@ -150,7 +150,7 @@ TEST(MonitorLifetime, ComIsLeftOnceOnTheThreadThatDestroys)
 	std::vector<std::thread::id> threads;
 	const ImportOverride com("CoUninitialize", &CoUninitialize, [&] { threads.push_back(std::this_thread::get_id()); });
 	{
-		const Listening listening({system});
+		const Listening listening({identified});
 		Stopping stopped;
 		stopped.stop();
 		EXPECT_FALSE(stopped.start()) << "it stops for good";

@@ -3,9 +3,9 @@
 
 namespace
 {
-const FakeVolume system{.paths = {L"C:\\", L"D:\\mounted \u00FC\\"}};
-const FakeVolume stick{.paths = {L"E:\\"}, .driveType = DRIVE_REMOVABLE};
-const FakeVolume share{.paths = {L"Z:\\"}, .driveType = DRIVE_REMOTE};
+const FakeVolume mountedTwice{.paths = {L"C:\\", L"D:\\mounted \u00FC\\"}};
+const FakeVolume removable{.paths = {L"E:\\"}, .driveType = DRIVE_REMOVABLE};
+const FakeVolume remote{.paths = {L"Z:\\"}, .driveType = DRIVE_REMOTE};
 
 /** What is listed, a space behind each, then what is logged. */
 std::string listing()
@@ -34,13 +34,13 @@ TEST(MountPoints, OfLocalVolumesThenNetworkDrives)
 		std::string listing;
 	};
 	const Row rows[] = {
-		{"nothing", 0, {share, {.paths = {}}, system, stick}, "C:\\ D:\\mounted \xC3\xBC\\ E:\\ Z:\\ "},
-		{"FindFirstVolumeW", 206, {system, share, stick},
+		{"nothing", 0, {remote, {.paths = {}}, mountedTwice, removable}, "C:\\ D:\\mounted \xC3\xBC\\ E:\\ Z:\\ "},
+		{"FindFirstVolumeW", 206, {mountedTwice, remote, removable},
 			"Z:\\ Failed to list attached volumes: FindFirstVolume() failed with error code 206\n"},
-		{"FindNextVolumeW", 6, {system, share, stick},
+		{"FindNextVolumeW", 6, {mountedTwice, remote, removable},
 			"C:\\ D:\\mounted \xC3\xBC\\ Z:\\ Failed to retrieve volume: FindNextVolume() failed with error code 6\n"},
-		{"GetLogicalDrives", ERROR_NOT_READY, {share, stick}, "E:\\ "},
-		{"GetVolumePathNamesForVolumeNameW", ERROR_FILE_NOT_FOUND, {system, stick}, "E:\\ "},
+		{"GetLogicalDrives", ERROR_NOT_READY, {remote, removable}, "E:\\ "},
+		{"GetVolumePathNamesForVolumeNameW", ERROR_FILE_NOT_FOUND, {mountedTwice, removable}, "E:\\ "},
 		{"a name that is too long", 0,
 			{{.paths = {L"E:\\"}, .name = longName}, {.paths = {L"F:\\"}, .name = longName.substr(0, 259)}},
 			"F:\\ Failed to enumerate mount points for volume '\\\\?\\Volume{\xC3\xBC" + std::string(248, 'x') + "'\n"},
@@ -55,7 +55,7 @@ TEST(MountPoints, OfLocalVolumesThenNetworkDrives)
 
 TEST(MountPoints, ListsMayGrowMeanwhileButAreNotAskedForEver)
 {
-	const FakeComputer computer({system});
+	const FakeComputer computer({mountedTwice});
 	for (const bool isGrowing : {true, false})
 	{
 		int attempts = 0;
