@@ -1,5 +1,5 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// Lookup tables of looks, between .cube files and look assets. docs/looks.md lists what is read.
+// Lookup tables of looks, between .cube files and look assets. docs/cube.md lists what is read.
 #pragma once
 
 #include "CoreMinimal.h"

@@ -1,5 +1,5 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
-// Lookup tables as text: .cube files, which most grading programs write. docs/looks.md lists what is read.
+// Lookup tables as text: .cube files, which most grading programs write. docs/cube.md lists what is read.
 #pragma once
 
 #include "Color/LookTable.h"
