@@ -68,8 +68,8 @@ public:
 
 	/**
 	 * The whole look, controls and table, as the text of one .cube file: ASCII, lines that end with LF. Curves stand in
-	 * front of the cube where the controls need them. Takes tens of milliseconds for 33 samples a side. Any thread, but not
-	 * while the look changes.
+	 * front of the cube where the controls need them. Takes tens of milliseconds for 33 samples a side. Game thread: it
+	 * makes the table ready as GetTable does.
 	 * @param Size samples a side, 2 to 129
 	 */
 	TONALITH_API FString MakeCubeText(int32 Size) const;
