@@ -87,9 +87,9 @@ void FReport::AddStep(const std::string& Source, const std::string& NewWords)
 
 void FReport::AddPart()
 {
-	std::ofstream Page(Folder / "index.html", std::ios::binary | std::ios::app);
 	if (!Folder.empty() && !Steps.empty())
 	{
+		std::ofstream Page(Folder / "index.html", std::ios::binary | std::ios::app);
 		Page << "<section>\n"
 			 << Element(
 					"div class=\"words\"", Element("p", Escaped(Words)) +

@@ -86,6 +86,9 @@ TEST_F(BadInput, ThePageOfAStoryNeedsNoOtherFile)
 {
 	Write("page.story",
 		"# A & B\nstart\nlayout TwoPanesHoriz\nopen menu View\nsave picture a\n# End\nsave picture b\nquit\n");
+	fs::remove("index.html");
+	Play(L"page.story");
+	EXPECT_FALSE(fs::exists("index.html")) << "nobody asked for a page";
 	const FProgramResult Result = Play(L"page.story", L" -report=" + (Folder / L"out").wstring());
 	EXPECT_EQ(Result.ExitCode, 0u) << Result.Output;
 	std::ifstream File(Folder / L"out/index.html", std::ios::binary);

@@ -12,7 +12,6 @@ namespace LookColor
 namespace
 {
 constexpr double MiddleGrey = 0.18;
-constexpr double Never = std::numeric_limits<double>::infinity();
 } // namespace
 
 bool MixesChannels(const FGrading& Grading)
@@ -40,10 +39,7 @@ double LeastLightFor(const FChannelGrading& Grading, double Graded)
 	{
 		return 0.0;
 	}
-	if (Grading.Gain <= 0.0 || Grading.Contrast <= 0.0)
-	{
-		return Never;
-	}
+	// Without gain or contrast all light becomes the same: then these are infinite.
 	const double Contrasted = std::pow((Graded - Grading.Offset) / Grading.Gain, Grading.Gamma);
 	const double Light = std::pow(Contrasted / MiddleGrey, 1.0 / Grading.Contrast) * MiddleGrey;
 	// Black is not bright enough, however little light is.
