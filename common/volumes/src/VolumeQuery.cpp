@@ -4,6 +4,7 @@
 #include "FileSystemNames.h"
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <kiln/Drives.h>
 #include <kiln/Unicode.h>
 #include <kiln/VolumeEventMonitor.h>
@@ -28,14 +29,12 @@ private:
 
 bool readFileSystem(const std::wstring& root, VolumeInfo& volume)
 {
-	constexpr DWORD labelRoom = 260;
-	constexpr DWORD nameRoom = 255;
-	// One more than the platform is told of, so that every text ends.
-	wchar_t label[labelRoom + 1] = {};
-	wchar_t name[nameRoom + 1] = {};
+	wchar_t label[260] = {};
+	wchar_t name[255] = {};
 	DWORD serial = 0;
 	DWORD flags = 0;
-	if (!GetVolumeInformationW(root.c_str(), label, labelRoom, &serial, nullptr, &flags, name, nameRoom))
+	if (!GetVolumeInformationW(root.c_str(), label, static_cast<DWORD>(std::size(label)), &serial, nullptr, &flags,
+			name, static_cast<DWORD>(std::size(name))))
 	{
 		return false;
 	}
