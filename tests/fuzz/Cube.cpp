@@ -3,20 +3,9 @@
 #include "Color/CubeReader.h"
 #include "Color/CubeWriter.h"
 #include "Color/TableBytes.h"
+#include "Require.h"
 
 #include <algorithm>
-#include <cstdlib>
-
-namespace
-{
-void require(bool holds)
-{
-	if (!holds)
-	{
-		std::abort();
-	}
-}
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
@@ -24,14 +13,17 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 	const auto result = LookColor::ReadCube(text);
 	if (const auto* error = std::get_if<LookColor::FCubeError>(&result))
 	{
-		require(error->Line >= 1 && error->Line <= size + 1 && error->Expected.size() + error->Found.size() < 300);
+		require(error->Line >= 1 && error->Line <= size + 1, "errors are within the text");
 		const std::string words = error->Expected + error->Found;
-		require(std::all_of(words.begin(), words.end(), [](char byte) { return byte >= 0x20 && byte < 0x7F; }));
+		const bool isPlain =
+			std::all_of(words.begin(), words.end(), [](char byte) { return byte >= 0x20 && byte < 0x7F; });
+		require(isPlain && words.size() < 300, "errors are short and in ASCII");
 		return 0;
 	}
 	const auto& table = std::get<LookColor::FLookTable>(result);
-	require((table.Shaper.size() + table.Cube.size()) * 6 <= size);
-	require(LookColor::TableFrom(LookColor::BytesOf(table)).has_value());
-	require(std::holds_alternative<LookColor::FLookTable>(LookColor::ReadCube(LookColor::CubeText(table))));
+	require((table.Shaper.size() + table.Cube.size()) * 6 <= size, "tables are no larger than their texts");
+	require(LookColor::TableFrom(LookColor::BytesOf(table)).has_value(), "tables can be stored");
+	const auto again = LookColor::ReadCube(LookColor::CubeText(table));
+	require(std::holds_alternative<LookColor::FLookTable>(again), "tables are read from what is written of them");
 	return 0;
 }

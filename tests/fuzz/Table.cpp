@@ -2,9 +2,9 @@
 // Stored bytes of tables: what is taken can be applied, and is stored as it was but for values that are no numbers.
 #include "Color/TableBytes.h"
 #include "Color/TableGrader.h"
+#include "Require.h"
 
 #include <cmath>
-#include <cstdlib>
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
@@ -21,9 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 		cube.ColorAt({place(0), place(1), place(2)});
 	}
 	const LookColor::FTriple color = LookColor::Applied(*table, {0.25f, -1.0f, 1e30f});
-	if (LookColor::BytesOf(*table).size() != size || !std::isfinite(color[0] + color[1] + color[2]))
-	{
-		std::abort();
-	}
+	require(std::isfinite(color[0] + color[1] + color[2]), "colors are numbers");
+	require(LookColor::BytesOf(*table).size() == size, "tables are stored as they were");
 	return 0;
 }

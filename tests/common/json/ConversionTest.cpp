@@ -1,6 +1,5 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "JsonText.h"
-#include "RandomTree.h"
 
 #include <gtest/gtest.h>
 #include <kiln/CajunTypeResolver.h>
@@ -9,26 +8,12 @@
 
 namespace
 {
-/** Not by json::Writer: the control characters of random texts go out as they are there. */
 std::string writtenByRapidJson(const rapidjson::Value& value)
 {
 	rapidjson::StringBuffer text;
 	rapidjson::Writer<rapidjson::StringBuffer> writer(text);
 	value.Accept(writer);
 	return text.GetString();
-}
-
-TEST(Conversion, TreesDocumentsAndTextsComeBackAsTheyWere)
-{
-	for (unsigned seed = 0; seed < 60; ++seed)
-	{
-		RandomTree random(seed);
-		const json::UnknownElement made = seed % 2 ? random.make() : json::UnknownElement(random.makeObject(4));
-		rapidjson::Document document;
-		Kiln::toRapidJson(made, document);
-		EXPECT_EQ(Kiln::toCajun(document), made) << "seed " << seed;
-		EXPECT_TRUE(parse(writtenByRapidJson(document)) == document) << "seed " << seed;
-	}
 }
 
 TEST(Conversion, IntegersOf64BitsAreTheNearestDoubleWithAllItsDigitsAndOthersStayDoubles)

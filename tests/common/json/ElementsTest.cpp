@@ -1,9 +1,9 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "JsonText.h"
-#include "RandomTree.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <random>
 #include <utility>
 #include <vector>
 

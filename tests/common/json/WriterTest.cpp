@@ -1,42 +1,13 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 #include "JsonText.h"
 
-#include <charconv>
 #include <cmath>
-#include <cstdint>
-#include <cstring>
 #include <gtest/gtest.h>
 #include <iomanip>
 #include <locale>
-#include <random>
 
 namespace
 {
-/** What a stream makes of a number with a precision of so many digits. */
-std::string printed(double value, int precision)
-{
-	std::ostringstream stream;
-	stream.imbue(std::locale::classic());
-	stream << std::setprecision(precision) << value;
-	return stream.str();
-}
-
-/** The definition of the default precision, tried out; strtod is not exact everywhere. */
-std::string printedShortest(double value)
-{
-	for (int precision = 15; precision < 17; ++precision)
-	{
-		const std::string text = printed(value, precision);
-		double back = 0;
-		std::from_chars(text.data(), text.data() + text.size(), back);
-		if (back == value)
-		{
-			return text;
-		}
-	}
-	return printed(value, 17);
-}
-
 TEST(Writer, LaysOutOneMemberALine)
 {
 	json::Object root;
@@ -78,34 +49,17 @@ TEST(Writer, EscapesSevenBytesInTextsAndNames)
 	EXPECT_EQ(textOf(json::String(plain)), "\"" + plain + "\"");
 }
 
-TEST(Writer, TakesTheFewestDigitsOfFifteenToSeventeenThatReadBack)
+TEST(Writer, TakesThePrecisionOfNumbersOrTheFewestDigits)
 {
-	std::mt19937_64 random(1);
-	for (int round = 0; round < 4'000; ++round)
-	{
-		const std::uint64_t bits = random();
-		double value = 0;
-		std::memcpy(&value, &bits, sizeof value);
-		// Random bits, decimals, powers of two, and integers around the limits of 15 to 17 digits
-		const int places = static_cast<int>(bits % 23);
-		const double decimal = static_cast<double>(bits >> 11) / std::pow(10, places);
-		const double power = std::ldexp(bits & 1 ? 1 : -1, static_cast<int>(bits % 2200) - 1100);
-		const double integer = static_cast<double>(bits >> (bits % 20));
-		for (const double tried : {value, decimal, power, integer})
-		{
-			if (std::isfinite(tried))
-			{
-				ASSERT_EQ(textOf(json::Number(tried)), printedShortest(tried));
-			}
-		}
-	}
 	EXPECT_EQ(textOf(json::Number(0.1 + 0.2)), "0.30000000000000004");
 	EXPECT_EQ(textOf(json::Number(HUGE_VAL)) + textOf(json::Number(std::nan(""), 5)), "nullnull");
 	for (const double value : {0.1, 123456.789, 1e-310, 1e308, 2.0 / 3})
 	{
 		for (const int precision : {0, 1, 6, 17, 30, 800, 5000})
 		{
-			ASSERT_EQ(textOf(json::Number(value, precision)), printed(value, precision)) << precision;
+			std::ostringstream printed;
+			printed << std::setprecision(precision) << value;
+			ASSERT_EQ(textOf(json::Number(value, precision)), printed.str()) << precision;
 		}
 	}
 }
