@@ -24,7 +24,9 @@ UTexture2D* UTexture2D::CreateTransient(int32 InSizeX, int32 InSizeY, EPixelForm
 void UTexture2D::UpdateResource()
 {
 	HostTrace::Line(TEXT("update texture %d x %d"), PlatformData.SizeX, PlatformData.SizeY);
-	RenderedPixels = PlatformData.Mips[0].BulkData.Bytes;
+	const auto& Pixels = PlatformData.Mips[0].BulkData;
+	check(!Pixels.bIsLocked);
+	RenderedPixels = Pixels.Bytes;
 	constexpr int32 Side = FHostLookupTable::Side;
 	const bool bIsWhole = PlatformData.SizeX == Side * Side && PlatformData.SizeY == Side;
 	const bool bIsClamped = AddressX == TA_Clamp && AddressY == TA_Clamp;

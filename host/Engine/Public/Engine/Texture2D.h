@@ -47,11 +47,17 @@ struct FTexture2DMipMap
 {
 	struct FBulkData
 	{
-		void* Lock(uint32) { return Bytes.GetData(); }
+		void* Lock(uint32)
+		{
+			check(!bIsLocked);
+			bIsLocked = true;
+			return Bytes.GetData();
+		}
 
-		void Unlock() {}
+		void Unlock() { bIsLocked = false; }
 
 		TArray<uint8> Bytes;
+		bool bIsLocked = false;
 	} BulkData;
 };
 
