@@ -56,6 +56,7 @@ TEST(Grader, IsTheControlsRoundedAndOffByOneStepAtMostBehindATable)
 		const std::vector<uint8_t> pixels = drawPixels(draw);
 		const auto controls = [&](const FColor3& color) { return controlled(grading, color); };
 		EXPECT_LE(worstStep(LookColor::FControlsGrader(grading), pixels, controls), 0.501) << look;
+		EXPECT_EQ(LookColor::LeastLightFor(grading[0], LookColor::GradedLight(grading[0], 0.0)), 0.0) << "black does";
 		const LookColor::FPackedCube cube(table);
 		const auto whole = [&](const FColor3& color) { return looked(table, controls(color)); };
 		EXPECT_LE(worstStep(LookColor::FTableGrader(grading, table, cube), pixels, whole), 1.5) << look;
