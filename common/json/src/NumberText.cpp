@@ -11,38 +11,38 @@ namespace Kiln
 {
 namespace
 {
-/** Without an exponent, numbers of so few bytes are none of those that the parser gets wrong: it has that power of ten. */
-constexpr std::size_t LongestExact = 24;
+/**
+ * Without an exponent, numbers of so few bytes are none of those that the parser gets wrong: what it adds their digits up to
+ * does not overflow.
+ */
+constexpr std::size_t LongestExact = 20;
 
 constexpr std::string_view TooBig = "1e999";
 
-bool isNumber(std::string_view text)
+/** The length of the number that a text begins with; 0 where there is none, or one that breaks off. */
+std::size_t numberLength(std::string_view text)
 {
+	std::string_view rest = text;
 	const auto skip = [&](std::string_view bytes)
 	{
-		const bool isThere = !text.empty() && bytes.find(text.front()) != bytes.npos;
-		text.remove_prefix(isThere ? 1 : 0);
+		const bool isThere = !rest.empty() && bytes.find(rest.front()) != bytes.npos;
+		rest.remove_prefix(isThere ? 1 : 0);
 		return isThere;
 	};
 	const auto skipDigits = [&]
 	{
-		const std::size_t count = (std::min)(text.find_first_not_of("0123456789"), text.size());
-		text.remove_prefix(count);
-		return count;
+		const std::size_t count = (std::min)(rest.find_first_not_of("0123456789"), rest.size());
+		rest.remove_prefix(count);
+		return count > 0;
 	};
-	skip("-");
-	const bool isZero = text.starts_with('0');
-	const std::size_t count = skipDigits();
-	if (count == 0 || (isZero && count > 1) || (skip(".") && skipDigits() == 0))
-	{
-		return false;
-	}
-	if (skip("eE"))
+	const auto skipExponent = [&]
 	{
 		skip("+-");
-		return skipDigits() > 0 && text.empty();
-	}
-	return text.empty();
+		return skipDigits();
+	};
+	skip("-");
+	const bool isWhole = (skip("0") || skipDigits()) && (!skip(".") || skipDigits()) && (!skip("eE") || skipExponent());
+	return isWhole ? text.size() - rest.size() : 0;
 }
 
 template <class Number>
@@ -104,12 +104,12 @@ void replace(std::span<char> number, std::string_view text)
 }
 } // namespace
 
-void makeExact(std::span<char> number)
+void makeExact(std::span<char> digits)
 {
+	const std::span<char> number = digits.first(numberLength({digits.data(), digits.size()}));
 	const std::string_view text(number.data(), number.size());
 	const bool hasExponent = std::any_of(text.begin(), text.end(), [](char c) { return c == 'e' || c == 'E'; });
-	if ((!hasExponent && text.size() <= LongestExact) || !isNumber(text) || isWithin<std::int64_t>(text) ||
-		isWithin<std::uint64_t>(text))
+	if ((!hasExponent && text.size() <= LongestExact) || isWithin<std::int64_t>(text) || isWithin<std::uint64_t>(text))
 	{
 		return;
 	}
@@ -127,11 +127,11 @@ void makeExact(std::span<char> number)
 	}
 }
 
-void makeZero(std::span<char> number)
+void makeZero(std::span<char> digits)
 {
-	if (isNumber({number.data(), number.size()}))
+	if (const std::size_t length = numberLength({digits.data(), digits.size()}); length > 0)
 	{
-		replace(number, "0");
+		replace(digits.first(length), "0");
 	}
 }
 } // namespace Kiln

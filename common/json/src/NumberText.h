@@ -6,12 +6,13 @@
 namespace Kiln
 {
 /**
- * Rewrites a number of a document, in as many bytes, where the parser might make of it another double than the nearest, or
- * fail: into no more digits than tell the double, and blanks behind them. One that is too big becomes one that the parser
- * finds too big. What is no number stays as it is, as do integers of up to 64 bits.
+ * Rewrites the number that a part of a document begins with, in as many bytes, where the parser might make of it another
+ * double than the nearest, or fail, or read beyond its tables: into no more digits than tell the double, and blanks behind
+ * them. One that is too big becomes one that the parser finds too big. What follows the number stays as it is, as do integers
+ * of up to 64 bits.
  */
-void makeExact(std::span<char> number);
+void makeExact(std::span<char> digits);
 
-/** Rewrites a number into 0 and blanks behind it; what is no number stays as it is. */
-void makeZero(std::span<char> number);
+/** Rewrites the number that a part of a document begins with into 0 and blanks behind it. */
+void makeZero(std::span<char> digits);
 } // namespace Kiln
