@@ -1,81 +1,60 @@
 // Copyright 2026 Vantor. SPDX-License-Identifier: MIT
 // JSON text: read as the parser reads it from memory, but for numbers, which are exact; what is read, converted and written
 // comes back.
-#include "PlainParse.h"
+#include "../common/json/JsonText.h"
 #include "Require.h"
 
+#include <algorithm>
 #include <bit>
-#include <cajun/json/writer.h>
+#include <charconv>
 #include <cmath>
-#include <kiln/DeserializableRapidJson.h>
-#include <kiln/JsonConversion.h>
-#include <kiln/StringStreamBuf.h>
-#include <sstream>
+#include <rapidjson/memorystream.h>
+#include <rapidjson/writer.h>
 
 namespace
 {
-/** Whether a number is the integer that a text is, or the nearest double. */
-bool isNearest(const rapidjson::Value& number, std::string_view text)
+/** The parser's own writer, for numbers as they stand in a text: integers of up to 64 bits, or the nearest double. */
+struct ExactWriter : rapidjson::Writer<rapidjson::StringBuffer>
 {
-	if (number.IsDouble())
-	{
-		return std::bit_cast<std::uint64_t>(number.GetDouble()) ==
-			   std::bit_cast<std::uint64_t>(std::strtod(text.data(), nullptr));
-	}
-	return (text == "-0" ? "0" : text) ==
-		   (number.IsInt64() ? std::to_string(number.GetInt64()) : std::to_string(number.GetUint64()));
-}
+	using Writer::Writer;
 
-/** Compares two documents, the first of which holds the texts of its numbers. */
-bool isSame(const rapidjson::Value& plain, const rapidjson::Value& value)
-{
-	if (value.IsNumber())
+	bool RawNumber(const char* text, rapidjson::SizeType size, bool)
 	{
-		return plain.IsString() && isNearest(value, {plain.GetString(), plain.GetStringLength()});
+		const auto isWhole = [&](auto& number)
+		{
+			const std::from_chars_result read = std::from_chars(text, text + size, number);
+			return read.ec == std::errc() && read.ptr == text + size;
+		};
+		std::int64_t integer = 0;
+		std::uint64_t natural = 0;
+		return isWhole(integer)   ? Int64(integer)
+			   : isWhole(natural) ? Uint64(natural)
+								  : Double(std::strtod(text, nullptr));
 	}
-	if (value.IsObject() && plain.IsObject())
-	{
-		return std::equal(plain.MemberBegin(), plain.MemberEnd(), value.MemberBegin(), value.MemberEnd(),
-			[](const auto& left, const auto& right)
-			{ return left.name == right.name && isSame(left.value, right.value); });
-	}
-	if (value.IsArray() && plain.IsArray())
-	{
-		return std::equal(plain.Begin(), plain.End(), value.Begin(), value.End(), isSame);
-	}
-	return plain == value;
-}
+};
 
-rapidjson::Document parse(const std::string& text)
+void checkParse(std::string text, const rapidjson::Document& document)
 {
-	Kiln::StringStreamBuf buffer(text);
-	std::istream stream(&buffer);
-	rapidjson::Document document;
-	Kiln::DeserializableRapidJson().parse(document, stream);
-	return document;
-}
-
-std::string textOf(const json::UnknownElement& element)
-{
-	std::ostringstream stream;
-	json::Writer::Write(element, stream);
-	return stream.str();
-}
-
-void checkParse(const std::string& text, const rapidjson::Document& document)
-{
-	const rapidjson::Document plain = parsePlainly<rapidjson::kParseNumbersAsStringsFlag>(text);
+	require(!document.HasParseError() || document.IsNull(), "what is no document is empty");
 	if (document.GetParseError() == rapidjson::kParseErrorNumberTooBig)
 	{
 		require(std::isinf(std::strtod(text.c_str() + document.GetErrorOffset(), nullptr)), "a number is too big");
+		return;
 	}
-	else if (plain.GetParseError() != rapidjson::kParseErrorNumberTooBig)
+	std::replace(text.begin(), text.end(), '\0', '\1');
+	rapidjson::MemoryStream stream(text.data(), text.size());
+	rapidjson::StringBuffer expected, actual;
+	ExactWriter exact(expected), writer(actual);
+	constexpr unsigned flags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag;
+	const rapidjson::ParseResult plain = rapidjson::Reader().Parse<flags>(stream, exact);
+	if (plain.Code() != rapidjson::kParseErrorNumberTooBig)
 	{
-		require(document.GetParseError() == plain.GetParseError(), "errors are the parser's");
-		require(document.GetErrorOffset() == plain.GetErrorOffset(), "errors are where the parser finds them");
-		require(isSame(plain, document), "values are the nearest to those of the text");
+		require(document.GetParseError() == plain.Code(), "errors are the parser's");
+		require(document.GetErrorOffset() == plain.Offset(), "errors are where the parser finds them");
+		document.Accept(writer);
+		require(plain.IsError() || std::string_view(expected.GetString()) == actual.GetString(),
+			"values are the nearest to those of the text");
 	}
-	require(!document.HasParseError() || document.IsNull(), "what is no document is empty");
 }
 
 void checkConversions(const rapidjson::Document& document)
@@ -98,13 +77,17 @@ void checkConversions(const rapidjson::Document& document)
 /** Of a double, its text; and what is read half-way to the next one, or nearly there. */
 void checkNumber(std::uint64_t bits)
 {
-	const double value = std::bit_cast<double>(bits >> bits % 64 & 0x7FDFFFFFFFFFFFFF);
+	const double few = std::pow(10, static_cast<int>(bits % 29) - 9) * static_cast<double>(bits % 999);
+	const double value = bits % 4 == 0 ? few : std::bit_cast<double>(bits >> bits % 64 & 0x7FDFFFFFFFFFFFFF);
 	const long double half = (static_cast<long double>(value) + std::nextafter(value, HUGE_VAL)) / 2;
 	char text[1100];
 	std::snprintf(text, sizeof text, "[%.*Le]", static_cast<int>(bits % 2 ? 1000 : bits % 30), half);
 	checkParse(text, parse(text));
 
-	int precision = 15;
+	int precision = static_cast<int>(bits % 800);
+	std::snprintf(text, sizeof text, "%.*g", precision, value);
+	require(textOf(json::Number(value, precision)) == text, "numbers have the digits that are asked for");
+	precision = 15;
 	do
 	{
 		std::snprintf(text, sizeof text, "%.*g", precision, value);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <rapidjson/error/error.h>
 #include <stdexcept>
+#include <tuple>
 
 namespace
 {
@@ -13,13 +14,7 @@ constexpr std::size_t BlockSize = 16384;
 
 TEST(Parse, BadTextIsAnErrorWhereItStands)
 {
-	struct Case
-	{
-		std::string text;
-		rapidjson::ParseErrorCode code;
-		std::size_t offset;
-	};
-	const Case table[] = {
+	const std::tuple<std::string, rapidjson::ParseErrorCode, std::size_t> table[] = {
 		{"", rapidjson::kParseErrorDocumentEmpty, 0},
 		{"{}\0"s, rapidjson::kParseErrorDocumentRootNotSingular, 2},
 		{"\xEF\xBB\xBF{}", rapidjson::kParseErrorValueInvalid, 0},
@@ -28,11 +23,11 @@ TEST(Parse, BadTextIsAnErrorWhereItStands)
 		{"[0.1456789012345674567890123456780e-334-8]", rapidjson::kParseErrorArrayMissCommaOrSquareBracket, 39},
 		{std::string(BlockSize, ' ') + "\t\r\n{,}", rapidjson::kParseErrorObjectMissName, BlockSize + 4},
 	};
-	for (const Case& bad : table)
+	for (const auto& [text, code, offset] : table)
 	{
-		const rapidjson::Document document = parse(bad.text);
-		EXPECT_EQ(document.GetParseError(), bad.code) << bad.text;
-		EXPECT_EQ(document.GetErrorOffset(), bad.offset) << bad.text;
+		const rapidjson::Document document = parse(text);
+		EXPECT_EQ(document.GetParseError(), code) << text;
+		EXPECT_EQ(document.GetErrorOffset(), offset) << text;
 	}
 	EXPECT_TRUE(parse("[\"a\0b\"]"s).HasParseError());
 	EXPECT_STREQ(parse(R"(["\uDC00"])")[0].GetString(), "\xED\xB0\x80") << "passed on";

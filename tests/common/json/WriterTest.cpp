@@ -10,27 +10,20 @@ namespace
 {
 TEST(Writer, LaysOutOneMemberALine)
 {
-	json::Object root;
-	root["te\txt"] = json::String("x");
-	root["none"] = json::Null();
-	root["list"][0] = json::Number(1);
-	root["list"][1]["deep"] = json::Boolean(true);
-	root["list"][1]["no"] = json::Boolean(false);
-	root["list"][2] = json::Object();
-	root["last"] = json::Array();
-	EXPECT_EQ(textOf(root), "{\n"
-							"\t\"te\\txt\" : \"x\",\n"
-							"\t\"none\" : null,\n"
-							"\t\"list\" : [\n"
-							"\t\t1,\n"
-							"\t\t{\n"
-							"\t\t\t\"deep\" : true,\n"
-							"\t\t\t\"no\" : false\n"
-							"\t\t},\n"
-							"\t\t{}\n"
-							"\t],\n"
-							"\t\"last\" : []\n"
-							"}");
+	const char* const text = R"({"te\txt":"x","none":null,"list":[1,{"deep":true,"no":false},{}],"last":[]})";
+	EXPECT_EQ(textOf(tree(text)), "{\n"
+								  "\t\"te\\txt\" : \"x\",\n"
+								  "\t\"none\" : null,\n"
+								  "\t\"list\" : [\n"
+								  "\t\t1,\n"
+								  "\t\t{\n"
+								  "\t\t\t\"deep\" : true,\n"
+								  "\t\t\t\"no\" : false\n"
+								  "\t\t},\n"
+								  "\t\t{}\n"
+								  "\t],\n"
+								  "\t\"last\" : []\n"
+								  "}");
 }
 
 TEST(Writer, EscapesSevenBytesInTextsAndNames)
@@ -53,15 +46,7 @@ TEST(Writer, TakesThePrecisionOfNumbersOrTheFewestDigits)
 {
 	EXPECT_EQ(textOf(json::Number(0.1 + 0.2)), "0.30000000000000004");
 	EXPECT_EQ(textOf(json::Number(HUGE_VAL)) + textOf(json::Number(std::nan(""), 5)), "nullnull");
-	for (const double value : {0.1, 123456.789, 1e-310, 1e308, 2.0 / 3})
-	{
-		for (const int precision : {0, 1, 6, 17, 30, 800, 5000})
-		{
-			std::ostringstream printed;
-			printed << std::setprecision(precision) << value;
-			ASSERT_EQ(textOf(json::Number(value, precision)), printed.str()) << precision;
-		}
-	}
+	EXPECT_EQ(textOf(json::Number(2.0 / 3, 3)) + textOf(json::Number(0.5, 5000)), "0.6670.5");
 }
 
 TEST(Writer, NeitherObeysNorChangesTheStreamsFormat)

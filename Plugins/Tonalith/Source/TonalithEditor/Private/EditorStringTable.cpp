@@ -6,6 +6,7 @@
 #include "Internationalization/Culture.h"
 #include "MachineFolder.h"
 #include "Misc/ScopeLock.h"
+#include "Placeholders.h"
 
 #include <exception>
 #include <kiln/FolderLoader.h>
@@ -30,30 +31,6 @@ FString ToEngine(const std::string& Utf8)
 {
 	const FUTF8ToTCHAR Converted(Utf8.data(), static_cast<int32>(Utf8.size()));
 	return FString::ConstructFromPtrSize(Converted.Get(), Converted.Length());
-}
-
-std::string Fill(std::string Text, const std::unordered_map<std::string, std::string>& Arguments)
-{
-	constexpr size_t MarkLength = 2;
-	size_t Open = Text.find("{{");
-	while (Open != std::string::npos)
-	{
-		const size_t Close = Text.find("}}", Open + MarkLength);
-		if (Close == std::string::npos)
-		{
-			break;
-		}
-		const size_t End = Close + MarkLength;
-		const auto Argument = Arguments.find(Text.substr(Open + MarkLength, Close - Open - MarkLength));
-		if (Argument == Arguments.end())
-		{
-			Open = Text.find("{{", End);
-			continue;
-		}
-		Text.replace(Open, End - Open, Argument->second);
-		Open = Text.find("{{", Open + Argument->second.size());
-	}
-	return Text;
 }
 
 /** Null for a key that the table does not have. The caller holds the lock. */
@@ -99,7 +76,7 @@ FText LocalizedText(const std::string& Key, const std::unordered_map<std::string
 		return FText::FromString(ToEngine(Key));
 	}
 	// Without arguments every placeholder stays as it stands: no copy is needed to see that.
-	return FText::FromString(Arguments.empty() ? ToEngine(*Text) : ToEngine(Fill(*Text, Arguments)));
+	return FText::FromString(Arguments.empty() ? ToEngine(*Text) : ToEngine(FillPlaceholders(*Text, Arguments)));
 }
 
 void LoadEditorStrings()
