@@ -90,19 +90,39 @@ void appendEscaped(std::string& url, std::string_view name)
 	}
 }
 
+bool isHexDigit(char c)
+{
+	return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
+}
+
+/** A text with each "%" that begins no escape as "%25": the platform's call may take bytes beyond ASCII for digits. */
+std::string withStrayPercentsEscaped(std::string_view text)
+{
+	std::string escaped;
+	escaped.reserve(text.size());
+	for (std::size_t found = text.find('%'); found != text.npos; found = text.find('%'))
+	{
+		const std::string_view digits = text.substr(found + 1, 2);
+		const bool isEscape = digits.size() == 2 && std::ranges::all_of(digits, isHexDigit);
+		escaped.append(text, 0, found + 1) += isEscape ? "" : "25";
+		text.remove_prefix(found + 1);
+	}
+	escaped += text;
+	return escaped;
+}
+
 /** The end of a URL, unescaped. Empty for one with a NUL, escaped or not: what the platform's call makes of it is not told. */
 std::string unescapedFrom(const std::string& url, std::size_t begin)
 {
-	const std::string_view escaped = std::string_view(url).substr(begin);
-	const bool holdsNul = escaped.find('\0') != escaped.npos || !std::ranges::search(escaped, EscapedNul).empty();
+	std::string escaped = withStrayPercentsEscaped(std::string_view(url).substr(begin));
+	const bool holdsNul = escaped.find('\0') != escaped.npos || escaped.find(EscapedNul) != escaped.npos;
 	if (holdsNul || escaped.empty())
 	{
 		return {};
 	}
 	std::string plain(escaped.size() + 1, '\0');
 	auto length = static_cast<DWORD>(plain.size());
-	// The call writes its input only when told to work in place.
-	if (FAILED(UrlUnescapeA(const_cast<char*>(escaped.data()), plain.data(), &length, 0)))
+	if (FAILED(UrlUnescapeA(escaped.data(), plain.data(), &length, 0)))
 	{
 		return {};
 	}
