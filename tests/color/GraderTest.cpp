@@ -61,4 +61,5 @@ TEST(Grader, IsTheControlsRoundedAndOffByOneStepAtMostBehindATable)
 		const auto whole = [&](const FColor3& color) { return looked(table, controls(color)); };
 		EXPECT_LE(worstStep(LookColor::FTableGrader(grading, table, cube), pixels, whole), 1.5) << look;
 	}
+	EXPECT_EQ(LookColor::GradedLight({1.0, 64.0, 0.01, 0.0, 0.25}, 1.0), 0.25) << "no gain of endless light";
 }

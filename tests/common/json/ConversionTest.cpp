@@ -105,6 +105,7 @@ TEST(Deserialize, EveryWayInFallsBackToTheOther)
 	EXPECT_EQ(readBy<Reader>("{}"), "rapid, tree, refused");
 	RapidReader reader;
 	EXPECT_TRUE(reader.fromJson(tree(R"({"rapid":1})")));
+	EXPECT_FALSE(reader.fromJson(json::Object()));
 
 	struct Plain : Kiln::Deserializable
 	{

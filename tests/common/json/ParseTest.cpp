@@ -29,6 +29,10 @@ TEST(Parse, BadTextIsAnErrorWhereItStands)
 		EXPECT_EQ(document.GetParseError(), code) << text;
 		EXPECT_EQ(document.GetErrorOffset(), offset) << text;
 	}
+	const std::string digits = "184467440737095516155";
+	const rapidjson::Document twice =
+		parse("[" + digits + "," + std::string(BlockSize - digits.size() - 1, ' ') + digits + "]");
+	EXPECT_EQ(twice[0], twice[1]) << "at the same place of two blocks";
 	EXPECT_TRUE(parse("[\"a\0b\"]"s).HasParseError());
 	EXPECT_STREQ(parse(R"(["\uDC00"])")[0].GetString(), "\xED\xB0\x80") << "passed on";
 }

@@ -62,7 +62,7 @@ TEST(MountPoints, ListsMayGrowMeanwhileButAreNotAskedForEver)
 		const ImportOverride names("GetVolumePathNamesForVolumeNameW", &GetVolumePathNamesForVolumeNameW,
 			[&](const wchar_t*, wchar_t* out, DWORD room, DWORD* length) -> BOOL
 			{
-				*length = isGrowing ? room + 1 : 0;
+				*length = isGrowing ? room + 1 : room;
 				SetLastError(ERROR_MORE_DATA);
 				// In the end the longest list that fits, without the NULs at its end.
 				std::fill_n(out, room, L'x');
