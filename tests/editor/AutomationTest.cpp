@@ -13,7 +13,6 @@ TEST_F(Automation, TestsOfThePluginPassInASessionAndSeeWhenItIsGone)
 {
 	StartWithPanes();
 	const TArray<FAutomationTestBase*> Tests = HostAutomation::GetTests();
-	EXPECT_GE(Tests.Num(), 6);
 	for (FAutomationTestBase* Each : Tests)
 	{
 		for (const FString& Error : Each->Run())

@@ -10,6 +10,7 @@ namespace
 {
 constexpr int Depth = 200'000;
 
+/** [{"a" : {"a" : ...}}] */
 json::UnknownElement& innermostOf(json::UnknownElement& root)
 {
 	json::UnknownElement* innermost = &root;
@@ -21,19 +22,12 @@ json::UnknownElement& innermostOf(json::UnknownElement& root)
 	return *innermost;
 }
 
-/** [{"a" : {"a" : ... 1 ...}}] */
-json::UnknownElement makeDeep()
-{
-	json::UnknownElement root;
-	innermostOf(root) = json::Number(1);
-	return root;
-}
-
 TEST(DeepNesting, TreesAreCopiedComparedConvertedAndDestroyed)
 {
 	const long before = liveHeapObjects();
 	{
-		json::UnknownElement deep = makeDeep();
+		json::UnknownElement deep;
+		innermostOf(deep) = json::Number(1);
 		rapidjson::Document document;
 		{
 			const json::UnknownElement copy = deep;
@@ -54,8 +48,10 @@ TEST(DeepNesting, WritingEndsWhenTheStreamFails)
 	{
 	} buffer;
 	std::ostream stream(&buffer);
+	json::UnknownElement deep;
+	innermostOf(deep) = json::Number(1);
 	// All of the text would be some forty gigabytes.
-	json::Writer::Write(makeDeep(), stream);
+	json::Writer::Write(deep, stream);
 	EXPECT_TRUE(stream.bad());
 }
 
