@@ -16,7 +16,7 @@ tonalith_header_library(stb)
 tonalith_header_library(boost_headers)
 target_compile_definitions(boost_headers INTERFACE BOOST_ALL_NO_LIB)
 
-# Debian has this library for Linux only. One translation unit builds three times as fast as ten.
+# Debian has these two for Linux only. One translation unit builds up to three times as fast as ten.
 set(sources ${TONALITH_DEPS}/boost/libs/filesystem/src)
 add_library(boost_filesystem STATIC
 	${sources}/codecvt_error_category.cpp ${sources}/directory.cpp ${sources}/exception.cpp ${sources}/operations.cpp
@@ -29,7 +29,6 @@ target_compile_definitions(boost_filesystem
 		BOOST_USE_WINDOWS_H WIN32_LEAN_AND_MEAN NOMINMAX)
 target_compile_features(boost_filesystem PRIVATE cxx_std_20)
 target_compile_options(boost_filesystem PRIVATE -w)
-set_target_properties(boost_filesystem PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 0)
 
 set(sources /usr/src/googletest)
 add_library(gtest STATIC ${sources}/googletest/src/gtest-all.cc ${sources}/googlemock/src/gmock-all.cc
@@ -38,6 +37,7 @@ target_include_directories(gtest SYSTEM PUBLIC ${sources}/googletest/include ${s
 target_include_directories(gtest PRIVATE ${sources}/googletest ${sources}/googlemock)
 target_compile_features(gtest PRIVATE cxx_std_20)
 target_compile_options(gtest PRIVATE -w -O1 -fno-sanitize=undefined)
+set_target_properties(boost_filesystem gtest PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 0)
 
 if(TONALITH_BENCH)
 	file(GLOB sources ${TONALITH_DEPS}/benchmark/src/*.cc)
