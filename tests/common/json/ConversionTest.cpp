@@ -106,6 +106,8 @@ TEST(Deserialize, EveryWayInFallsBackToTheOther)
 	RapidReader reader;
 	EXPECT_TRUE(reader.fromJson(tree(R"({"rapid":1})")));
 	EXPECT_FALSE(reader.fromJson(json::Object()));
+	Kiln::DeserializableRapidJson nothing;
+	EXPECT_FALSE(Kiln::deserialize(nothing, parse("{}")));
 
 	struct Plain : Kiln::Deserializable
 	{
