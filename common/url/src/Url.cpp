@@ -14,7 +14,6 @@ constexpr std::string_view Scheme = "file://";
 constexpr std::string_view Localhost = "localhost";
 constexpr std::string_view SchemeEnd = "://";
 constexpr std::string_view WithoutHost = ":///";
-constexpr std::string_view EscapedNul = "%00";
 constexpr std::string_view NetworkPath = "\\\\";
 
 bool isSeparator(char c)
@@ -95,34 +94,43 @@ bool isHexDigit(char c)
 	return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
 }
 
-/** A text with each "%" that begins no escape as "%25": the platform's call may take bytes beyond ASCII for digits. */
-std::string withStrayPercentsEscaped(std::string_view text)
+/**
+ * The end of a URL for the platform's call: each "%" that begins no escape is "%25", since it may take bytes beyond ASCII for
+ * digits. Empty for one with a NUL, escaped or not: what the call makes of it is not told.
+ */
+std::string preparedFrom(const std::string& url, std::size_t begin)
 {
-	std::string escaped;
-	escaped.reserve(text.size());
-	for (std::size_t found = text.find('%'); found != text.npos; found = text.find('%'))
+	std::string prepared;
+	prepared.reserve(url.size());
+	for (std::size_t at = begin; at < url.size(); ++at)
 	{
-		const std::string_view digits = text.substr(found + 1, 2);
-		const bool isEscape = digits.size() == 2 && std::ranges::all_of(digits, isHexDigit);
-		escaped.append(text, 0, found + 1) += isEscape ? "" : "25";
-		text.remove_prefix(found + 1);
+		const bool isEscape =
+			url[at] == '%' && at + 2 < url.size() && isHexDigit(url[at + 1]) && isHexDigit(url[at + 2]);
+		if (url[at] == '\0' || (isEscape && url[at + 1] == '0' && url[at + 2] == '0'))
+		{
+			return {};
+		}
+		if (url[at] == '%' && !isEscape)
+		{
+			prepared.append(url, begin, at + 1 - begin) += "25";
+			begin = at + 1;
+		}
 	}
-	escaped += text;
-	return escaped;
+	prepared.append(url, begin);
+	return prepared;
 }
 
-/** The end of a URL, unescaped. Empty for one with a NUL, escaped or not: what the platform's call makes of it is not told. */
+/** The end of a URL, unescaped. */
 std::string unescapedFrom(const std::string& url, std::size_t begin)
 {
-	std::string escaped = withStrayPercentsEscaped(std::string_view(url).substr(begin));
-	const bool holdsNul = escaped.find('\0') != escaped.npos || escaped.find(EscapedNul) != escaped.npos;
-	if (holdsNul || escaped.empty())
+	std::string prepared = preparedFrom(url, begin);
+	if (prepared.empty())
 	{
 		return {};
 	}
-	std::string plain(escaped.size() + 1, '\0');
+	std::string plain(prepared.size() + 1, '\0');
 	auto length = static_cast<DWORD>(plain.size());
-	if (FAILED(UrlUnescapeA(escaped.data(), plain.data(), &length, 0)))
+	if (FAILED(UrlUnescapeA(prepared.data(), plain.data(), &length, 0)))
 	{
 		return {};
 	}
