@@ -106,10 +106,14 @@ void replace(std::span<char> number, std::string_view text)
 
 void makeExact(std::span<char> digits)
 {
+	const bool hasExponent = std::any_of(digits.begin(), digits.end(), [](char c) { return c == 'e' || c == 'E'; });
+	if (!hasExponent && digits.size() <= LongestExact)
+	{
+		return;
+	}
 	const std::span<char> number = digits.first(numberLength({digits.data(), digits.size()}));
 	const std::string_view text(number.data(), number.size());
-	const bool hasExponent = std::any_of(text.begin(), text.end(), [](char c) { return c == 'e' || c == 'E'; });
-	if ((!hasExponent && text.size() <= LongestExact) || isWithin<std::int64_t>(text) || isWithin<std::uint64_t>(text))
+	if (text.empty() || isWithin<std::int64_t>(text) || isWithin<std::uint64_t>(text))
 	{
 		return;
 	}
