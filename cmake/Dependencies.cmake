@@ -37,6 +37,8 @@ target_include_directories(gtest SYSTEM PUBLIC ${sources}/googletest/include ${s
 target_include_directories(gtest PRIVATE ${sources}/googletest ${sources}/googlemock)
 target_compile_features(gtest PRIVATE cxx_std_20)
 target_compile_options(gtest PRIVATE -w -O1 -fno-sanitize=undefined)
+# Programs with a main function of their own leave this one in the archive.
+set_source_files_properties(${sources}/googlemock/src/gmock_main.cc PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
 set_target_properties(boost_filesystem gtest PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 0)
 
 if(TONALITH_BENCH)
