@@ -102,7 +102,7 @@ void FReport::AddPart()
 std::string FReport::ClassOf(const FPicture& Picture)
 {
 	const std::string Png = EncodePicture(Picture);
-	const std::string Class = "p" + std::to_string(std::hash<std::string>()(Png));
+	const std::string Class = 'p' + std::to_string(std::hash<std::string>()(Png));
 	if (Classes.insert(Class).second)
 	{
 		const std::string Size = std::to_string(Picture.Size.X) + "/" + std::to_string(Picture.Size.Y);
