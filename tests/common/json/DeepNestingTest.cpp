@@ -10,7 +10,6 @@ namespace
 {
 constexpr int Depth = 200'000;
 
-/** [{"a" : {"a" : ...}}] */
 json::UnknownElement& innermostOf(json::UnknownElement& root)
 {
 	json::UnknownElement* innermost = &root;
@@ -22,12 +21,19 @@ json::UnknownElement& innermostOf(json::UnknownElement& root)
 	return *innermost;
 }
 
+/** [{"a" : {"a" : ... 1 ...}}] */
+json::UnknownElement makeDeep()
+{
+	json::UnknownElement root;
+	innermostOf(root) = json::Number(1);
+	return root;
+}
+
 TEST(DeepNesting, TreesAreCopiedComparedConvertedAndDestroyed)
 {
 	const long before = liveHeapObjects();
 	{
-		json::UnknownElement deep;
-		innermostOf(deep) = json::Number(1);
+		json::UnknownElement deep = makeDeep();
 		rapidjson::Document document;
 		{
 			const json::UnknownElement copy = deep;
@@ -48,10 +54,8 @@ TEST(DeepNesting, WritingEndsWhenTheStreamFails)
 	{
 	} buffer;
 	std::ostream stream(&buffer);
-	json::UnknownElement deep;
-	innermostOf(deep) = json::Number(1);
 	// All of the text would be some forty gigabytes.
-	json::Writer::Write(deep, stream);
+	json::Writer::Write(makeDeep(), stream);
 	EXPECT_TRUE(stream.bad());
 }
 
